@@ -1,0 +1,26 @@
+#pragma once
+
+#include "zenta/core/currency.h"
+#include "zenta/platform/number_edit.h"
+
+namespace zenta::entry {
+
+// Money typed without a "." is read as cents when the field loses the focus: 1234 becomes
+// 12.34, -75 becomes -0.75. A text holding "." anywhere is left as typed, whatever the locale
+// uses as its separator. An empty field stays empty. Returns true when the text was rewritten.
+bool ApplyImpliedDecimal(platform::NumberEdit& edit);
+
+// Money set by the program is never divided: the value goes in as it is, and a text without
+// "." is rewritten with two decimals (1234 shows "1234.00").
+void SetAmount(platform::NumberEdit& edit, Currency value);
+void SetAmount(platform::NumberEdit& edit, float value);
+
+// Money read by the program: 0 when the field holds no value.
+Currency AmountAsCurrency(const platform::NumberEdit& edit);
+float AmountAsSingle(const platform::NumberEdit& edit);
+
+// The settings every amount field shares: display "########0.00;-########0.00;;0.00", edit
+// "#########.##".
+void ApplyAmountSettings(platform::NumberEdit& edit);
+
+}  // namespace zenta::entry

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+#include "zenta/core/date.h"
+#include "zenta/platform/message_box.h"
+#include "zenta/platform/raised_event.h"
+
+namespace zenta::platform {
+
+// What a control asks of the application that hosts it.
+class HostServices {
+ public:
+  virtual ~HostServices() = default;
+
+  // Tells the host that a persisted property changed at run time.
+  virtual void MarkPropertyChanged(const std::string& name) = 0;
+  // Queues keystrokes ("{TAB}") behind the notification being handled; returns at once.
+  virtual void InjectKeys(const std::string& keys) = 0;
+  virtual void RaiseEvent(RaisedEvent& event) = 0;
+  virtual MessageResult ShowMessage(const MessageBox& box) = 0;
+
+  // Seams that make behaviour reproducible.
+  virtual Date Today() const = 0;
+  // Asked afresh on every use: the host's locale may change while it runs.
+  virtual char32_t DecimalSeparator() const = 0;
+};
+
+}  // namespace zenta::platform

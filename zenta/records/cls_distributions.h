@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "zenta/core/variant.h"
+#include "zenta/records/cls_distribution.h"
+
+namespace zenta {
+
+// An ordered collection of distribution lines, numbered from 1 in insertion order, each
+// optionally reachable by a unique text key (compared without regard to ASCII case). Elements
+// are shared: a line stays alive while the collection or any other holder references it.
+//
+// Errors (HostError, source "clsDistributions"): a position outside 1..Count or an unknown key
+// raises SubscriptOutOfRange (9) and a key already in use KeyAlreadyAssociated (457); the
+// collection is then unchanged. Clear counts in 16 bits on purpose: more than 32,767 elements
+// raise Overflow and nothing is removed.
+class clsDistributions : public Object {
+ public:
+  using Element = std::shared_ptr<clsDistribution>;
+
+  Element Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
+              const std::string& sKey = std::string());
+  // A position (any numeric variant, from 1) or a key (text).
+  Element Item(const Variant& vntIndexKey) const;
+  std::int32_t Count() const { return static_cast<std::int32_t>(elements_.size()); }
+  void Remove(const Variant& vntIndexKey);
+  void Clear();
+
+  // Position order, for range-based for.
+  std::vector<Element>::const_iterator begin() const { return elements_.begin(); }
+  std::vector<Element>::const_iterator end() const { return elements_.end(); }
+
+ private:
+  std::size_t IndexOf(const Variant& vntIndexKey) const;
+  static std::string FoldKey(const std::string& key);
+
+  std::vector<Element> elements_;
+  std::vector<std::string> keys_;  // folded key of each element, empty for none
+  std::unordered_map<std::string, const clsDistribution*> by_key_;
+};
+
+}  // namespace zenta
