@@ -25,7 +25,9 @@ using ObjectRef = std::shared_ptr<Object>;
 class Variant {
  public:
   enum class Type { Empty, Null, Boolean, Integer, Long, Single, Double, Currency, Date, String, Object };
-  struct NullTag {};
+  struct NullTag {
+    friend bool operator==(NullTag, NullTag) { return true; }
+  };
 
   Variant() = default;
   Variant(NullTag) : value_(NullTag{}) {}

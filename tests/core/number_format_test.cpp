@@ -1,0 +1,61 @@
+#include "zenta/core/number_format.h"
+
+#include <gtest/gtest.h>
+
+namespace zenta {
+namespace {
+
+struct FormatCase {
+  const char* value;
+  std::string_view pattern;
+  const char* expected;
+};
+
+class NumberFormat : public testing::TestWithParam<FormatCase> {};
+
+TEST_P(NumberFormat, LaysOutCurrencyExactly) {
+  const auto& c = GetParam();
+  EXPECT_EQ(FormatNumber(Currency::FromText(c.value), c.pattern), c.expected)
+      << c.value << " with " << c.pattern;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Patterns, NumberFormat,
+    testing::Values(FormatCase{"12.5", formats::kAmount, "12.50"}, FormatCase{"1234", formats::kAmount, "1234.00"},
+                    FormatCase{"0", formats::kAmount, "0.00"}, FormatCase{"-0.75", formats::kAmount, "-0.75"},
+                    FormatCase{"123456789.12", formats::kAmount, "123456789.12"},
+                    FormatCase{"9999999999.99", formats::kAmountShort, "9999999999.99"},
+                    FormatCase{"0.125", formats::kTotal, "0.12"}, FormatCase{"0.135", formats::kTotal, "0.14"},
+                    FormatCase{"-0.001", formats::kTotal, "0.00"}, FormatCase{"7", "00", "07"},
+                    FormatCase{"26", "00", "26"}, FormatCase{"1.2345", formats::kRate, "1.234500"},
+                    FormatCase{"-3", formats::kAmountDisplay, "-3.00"},
+                    FormatCase{"0", formats::kAmountDisplay, "0.00"},
+                    FormatCase{"-3", formats::kGovtAmountDisplay, "-3.00"},
+                    FormatCase{"45.5", formats::kGovtAmountDisplay, "45.50"},
+                    FormatCase{"1234567.5", "#,##0.00", "1,234,567.50"},
+                    FormatCase{"12.5", formats::kAmountEdit, "12.5"},
+                    FormatCase{"0.5", formats::kAmountEdit, ".5"}));
+
+TEST(NumberFormat, NullUsesTheFourthSectionOrNothing) {
+  EXPECT_EQ(FormatNullable(std::nullopt, formats::kAmountDisplay), "0.00");
+  EXPECT_EQ(FormatNullable(std::nullopt, formats::kAmount), "");
+  EXPECT_EQ(FormatNullable(Currency::FromText("2.5"), formats::kAmountDisplay), "2.50");
+}
+
+TEST(NumberFormat, DoublesFormatAsWrittenNotAsTheirBinaryNeighbour) {
+  EXPECT_EQ(FormatNumber(1.234567, formats::kRate), "1.234567");
+  EXPECT_EQ(FormatNumber(2.675, formats::kTotal), "2.68");  // binary 2.67499999...
+  EXPECT_EQ(FormatNumber(2.665, formats::kTotal), "2.66");
+  EXPECT_EQ(FormatNumber(-1e-9, formats::kTotal), "0.00");
+}
+
+TEST(RoundHalfEven, SendsAnExactHalfToTheEvenDigit) {
+  EXPECT_DOUBLE_EQ(RoundHalfEven(123.455, 2), 123.46);
+  EXPECT_DOUBLE_EQ(RoundHalfEven(123.465, 2), 123.46);
+  EXPECT_DOUBLE_EQ(RoundHalfEven(-0.125, 2), -0.12);
+  EXPECT_DOUBLE_EQ(RoundHalfEven(100 * 1.234567, 2), 123.46);
+  EXPECT_DOUBLE_EQ(RoundHalfEven(2.5, 0), 2.0);
+}
+
+}  // namespace
+}  // namespace zenta

@@ -1,0 +1,165 @@
+#include "zenta/core/number_format.h"
+
+#include <charconv>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "zenta/core/decimal.h"
+
+namespace zenta {
+
+namespace {
+using detail::Decimal;
+using detail::UInt128;
+using detail::Int128;
+
+std::vector<std::string_view> SplitSections(std::string_view pattern) {
+  std::vector<std::string_view> sections;
+  std::size_t start = 0;
+  for (std::size_t i = 0; i <= pattern.size(); ++i) {
+    if (i == pattern.size() || pattern[i] == ';') {
+      sections.push_back(pattern.substr(start, i - start));
+      start = i + 1;
+    }
+  }
+  return sections;
+}
+
+bool IsPlaceholder(char c) { return c == '0' || c == '#'; }
+
+// One section: literal prefix, the number's placeholders, literal suffix.
+struct Section {
+  std::string prefix;
+  std::string suffix;
+  int min_integer_digits = 0;
+  int required_decimals = 0;
+  int max_decimals = 0;
+  bool grouping = false;
+  bool has_point = false;
+};
+
+Section ParseSection(std::string_view text) {
+  Section s;
+  std::size_t first = text.find_first_of("0#.");
+  std::size_t last = text.find_last_of("0#.,");
+  if (first == std::string_view::npos) {
+    s.prefix = std::string(text);
+    return s;
+  }
+  s.prefix = std::string(text.substr(0, first));
+  s.suffix = std::string(text.substr(last + 1));
+  bool after_point = false;
+  for (std::size_t i = first; i <= last; ++i) {
+    char c = text[i];
+    if (c == '.') {
+      after_point = true;
+      s.has_point = true;
+    } else if (c == ',' && !after_point) {
+      s.grouping = true;
+    } else if (IsPlaceholder(c) && !after_point) {
+      if (c == '0') ++s.min_integer_digits;
+    } else if (IsPlaceholder(c)) {
+      ++s.max_decimals;
+      if (c == '0') s.required_decimals = s.max_decimals;
+    }
+  }
+  return s;
+}
+
+std::string DigitsOf(UInt128 value) {
+  if (value == 0) return "0";
+  std::string out;
+  while (value != 0) {
+    out.insert(out.begin(), static_cast<char>('0' + static_cast<int>(value % 10)));
+    value /= 10;
+  }
+  return out;
+}
+
+// The magnitude of `value` (already rounded to s.max_decimals) laid out by the section.
+std::string LayOut(const Decimal& value, const Section& s) {
+  std::string digits = DigitsOf(value.digits);
+  auto decimals = static_cast<std::size_t>(value.scale);
+  if (digits.size() <= decimals) digits.insert(0, decimals - digits.size() + 1, '0');
+  std::string integer = digits.substr(0, digits.size() - decimals);
+  std::string fraction = digits.substr(digits.size() - decimals);
+  while (fraction.size() > static_cast<std::size_t>(s.required_decimals) && !fraction.empty() && fraction.back() == '0') {
+    fraction.pop_back();
+  }
+  std::size_t first_nonzero = integer.find_first_not_of('0');
+  integer = first_nonzero == std::string::npos ? "" : integer.substr(first_nonzero);
+  if (integer.size() < static_cast<std::size_t>(s.min_integer_digits)) {
+    integer.insert(0, static_cast<std::size_t>(s.min_integer_digits) - integer.size(), '0');
+  }
+  if (s.grouping) {
+    for (int i = static_cast<int>(integer.size()) - 3; i > 0; i -= 3) integer.insert(static_cast<std::size_t>(i), ",");
+  }
+  std::string out = s.prefix + integer;
+  if (s.has_point && (!fraction.empty() || s.required_decimals > 0)) out += "." + fraction;
+  return out + s.suffix;
+}
+
+std::string Format(const Decimal* value, std::string_view pattern) {
+  auto sections = SplitSections(pattern);
+  Section positive = ParseSection(sections[0]);
+  Decimal rounded = detail::Rescale(*value, positive.max_decimals).value_or(Decimal{});
+  if (value->negative && sections.size() > 1 && !sections[1].empty()) {
+    Section negative = ParseSection(sections[1]);
+    rounded = detail::Rescale(*value, negative.max_decimals).value_or(Decimal{});
+    if (rounded.digits != 0) return LayOut(rounded, negative);
+  }
+  if (value->digits == 0 && sections.size() > 2 && !sections[2].empty()) {
+    Section zero = ParseSection(sections[2]);
+    return LayOut(detail::Rescale(*value, zero.max_decimals).value_or(Decimal{}), zero);
+  }
+  std::string text = LayOut(rounded, positive);
+  if (value->negative && rounded.digits != 0) text.insert(0, "-");
+  return text;
+}
+
+Decimal DecimalOf(Currency value) {
+  Decimal d;
+  Int128 units = value.Units();
+  d.negative = units < 0;
+  d.digits = static_cast<UInt128>(units < 0 ? -units : units);
+  d.scale = 4;
+  return d;
+}
+}  // namespace
+
+std::string FormatNumber(Currency value, std::string_view pattern) {
+  Decimal decimal = DecimalOf(value);
+  return Format(&decimal, pattern);
+}
+
+std::string FormatNumber(double value, std::string_view pattern) {
+  auto decimal = detail::DecimalFromDouble(value);
+  if (!decimal) return std::isnan(value) ? "NaN" : (value > 0 ? "Infinity" : "-Infinity");
+  if (decimal->scale < -14) {
+    // Astronomically large: no money pattern can lay it out digit by digit.
+    char buffer[64];
+    auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value);
+    return std::string(buffer, ec == std::errc() ? end : buffer);
+  }
+  return Format(&*decimal, pattern);
+}
+
+std::string FormatNullable(const std::optional<Currency>& value, std::string_view pattern) {
+  if (value) return FormatNumber(*value, pattern);
+  auto sections = SplitSections(pattern);
+  return sections.size() > 3 ? std::string(sections[3]) : std::string();
+}
+
+double RoundHalfEven(double value, int places) {
+  auto decimal = detail::DecimalFromDouble(value);
+  if (!decimal || places < 0 || places > 15) return value;
+  auto rounded = detail::Rescale(*decimal, places);
+  if (!rounded) return value;
+  std::string text = (rounded->negative ? "-" : "") + DigitsOf(rounded->digits) + "e-" + std::to_string(places);
+  double result = 0;
+  std::from_chars(text.data(), text.data() + text.size(), result);
+  return result;
+}
+
+}  // namespace zenta
