@@ -1,0 +1,101 @@
+#include "zenta/records/cls_distributions.h"
+
+#include <gtest/gtest.h>
+
+#include "zenta/core/host_error.h"
+#include "zenta/records/cls_invoice.h"
+
+namespace zenta {
+namespace {
+
+int ErrorNumberOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const HostError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+clsDistributions ThreeLines() {
+  clsDistributions lines;
+  lines.Add(Variant(), "5100", Currency::FromInteger(60), "rent");
+  lines.Add(Variant(), "5200", Currency::FromInteger(30));
+  lines.Add(Variant(), "5300", Currency::FromInteger(10), "fees");
+  return lines;
+}
+
+TEST(clsDistributions, PositionsCountFromOneAndCloseUpAfterRemove) {
+  auto lines = ThreeLines();
+  EXPECT_EQ(lines.Item(std::int16_t{1})->GLAccount, "5100");
+  lines.Remove(std::int16_t{1});
+  EXPECT_EQ(lines.Count(), 2);
+  EXPECT_EQ(lines.Item(1)->GLAccount, "5200");
+  EXPECT_EQ(lines.Item("FEES")->GLAccount, "5300");  // keys ignore case
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Item("rent"); }), 9);  // its key went with it
+}
+
+TEST(clsDistributions, BadPositionsAndKeysFailAndChangeNothing) {
+  auto lines = ThreeLines();
+  for (const Variant& bad : {Variant(0), Variant(4), Variant(-1), Variant("nope"), Variant("")}) {
+    EXPECT_EQ(ErrorNumberOf([&] { lines.Item(bad); }), 9) << bad.ToString();
+    EXPECT_EQ(ErrorNumberOf([&] { lines.Remove(bad); }), 9) << bad.ToString();
+  }
+  EXPECT_EQ(lines.Count(), 3);
+}
+
+TEST(clsDistributions, DuplicateKeyIsRefusedAndNotAdded) {
+  auto lines = ThreeLines();
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Add(Variant(), "9999", Currency(), "Rent"); }), 457);
+  EXPECT_EQ(lines.Count(), 3);
+  lines.Add(Variant(), "9999", Currency());  // no key: any number of these
+  lines.Add(Variant(), "9999", Currency(), "");
+  EXPECT_EQ(lines.Count(), 5);
+}
+
+TEST(clsDistributions, AddReturnsTheHeldElementWithItsIdAsGiven) {
+  clsDistributions lines;
+  auto text_id = lines.Add(Variant("A-7"), "5100", Currency::FromText("12.34"));
+  auto empty_id = lines.Add(Variant(), "5200", Currency());
+  EXPECT_EQ(lines.Item(1), text_id);
+  EXPECT_EQ(text_id->ID, Variant("A-7"));
+  EXPECT_TRUE(empty_id->ID.IsEmpty());
+}
+
+TEST(clsDistributions, ElementsOutliveTheCollectionWhileHeld) {
+  std::shared_ptr<clsDistribution> kept;
+  {
+    auto lines = ThreeLines();
+    kept = lines.Item(2);
+    lines.Clear();
+  }
+  EXPECT_EQ(kept->GLAccount, "5200");
+}
+
+TEST(clsDistributions, ClearCountsInSixteenBits) {
+  clsDistributions lines;
+  lines.Clear();
+  for (int i = 0; i < 32767; ++i) lines.Add(Variant(), "1", Currency());
+  lines.Clear();
+  EXPECT_EQ(lines.Count(), 0);
+
+  for (int i = 0; i < 32768; ++i) lines.Add(Variant(), "1", Currency());
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Clear(); }), 6);
+  EXPECT_EQ(lines.Count(), 32768);
+}
+
+TEST(clsDistributions, IteratesInPositionOrder) {
+  std::string accounts;
+  for (const auto& line : ThreeLines()) accounts += line->GLAccount + " ";
+  EXPECT_EQ(accounts, "5100 5200 5300 ");
+}
+
+TEST(clsInvoice, StartsWithNoDistributions) {
+  clsInvoice invoice;
+  EXPECT_EQ(invoice.Distributions, nullptr);
+  EXPECT_TRUE(invoice.InvoiceDate.IsZero());
+  EXPECT_EQ(invoice.ID, 0);
+}
+
+}  // namespace
+}  // namespace zenta
