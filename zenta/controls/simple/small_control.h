@@ -1,0 +1,77 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "zenta/core/ole_color.h"
+#include "zenta/core/variant.h"
+#include "zenta/entry/common_properties.h"
+#include "zenta/platform/control_surface.h"
+#include "zenta/platform/host_services.h"
+#include "zenta/platform/property_bag.h"
+
+namespace zenta {
+
+// What the single-payment and government controls share: the four persisted properties and
+// their lifecycle, Enter as Tab, the minimum size, and raising numbered events to the host.
+// Each control adds its own widgets and plugs its own steps into the virtual hooks.
+class SmallControl {
+ public:
+  virtual ~SmallControl() = default;
+  SmallControl(const SmallControl&) = delete;
+  SmallControl& operator=(const SmallControl&) = delete;
+
+  // First creation: no saved state.
+  void InitProperties() { properties_.InitNew(); }
+  void ReadProperties(const platform::PropertyBag& bag);
+  void WriteProperties(platform::PropertyBag& bag) const { properties_.Write(bag); }
+
+  OleColor BackColor() const { return properties_.BackColor(); }
+  void SetBackColor(OleColor color) { properties_.SetBackColor(color); }
+  bool BusinessMode() const { return properties_.BusinessMode(); }
+  void SetBusinessMode(bool on) { properties_.SetBusinessMode(on); }
+  OleColor BackColorTitle() const { return properties_.BackColorTitle(); }
+  void SetBackColorTitle(OleColor color) { properties_.SetBackColorTitle(color); }
+  bool Enabled() const { return properties_.Enabled(); }
+  void SetEnabled(bool enabled) { properties_.SetEnabled(enabled); }
+
+  int MinimumWidth() const { return min_width_; }
+  int MinimumHeight() const { return min_height_; }
+
+ protected:
+  SmallControl(platform::ControlSurface& surface, platform::HostServices& host, OleColor default_title_color,
+               int min_width_twips, int min_height_twips);
+
+  // Hooks, run by the property rules; the defaults suit most controls.
+  virtual void ApplyTitleColor() {}
+  virtual void PropagateEnabled();
+  virtual void BusinessModeChanged() {}
+  virtual void PropertiesRead() {}
+  virtual void Shown() {}
+  // Whether Enter should move on from the field that has the focus.
+  virtual bool EnterMovesOnFrom(const std::string& /*active_child*/) const { return true; }
+
+  void EnforceMinimumSize();
+  // Raises the event to the host by number and returns it with the host's in/out values.
+  platform::RaisedEvent Raise(int number, const char* name, std::vector<Variant> args = {});
+  // A notification that raises an argument-less event by number and to the typed listener.
+  template <class Listener>
+  std::function<void()> EventRaiser(int number, const char* name, Listener* const& listener,
+                                    void (Listener::*typed)()) {
+    return [this, number, name, &listener, typed] {
+      Raise(number, name);
+      if (listener) (listener->*typed)();
+    };
+  }
+
+  platform::ControlSurface& surface_;
+  platform::HostServices& host_;
+
+ private:
+  entry::CommonProperties properties_;
+  int min_width_;
+  int min_height_;
+};
+
+}  // namespace zenta

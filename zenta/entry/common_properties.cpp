@@ -1,0 +1,72 @@
+#include "zenta/entry/common_properties.h"
+
+namespace zenta::entry {
+
+namespace {
+constexpr const char* kBackColor = "BackColor";
+constexpr const char* kEnabled = "Enabled";
+constexpr const char* kBackColorTitle = "BackColorTitle";
+constexpr const char* kBusinessMode = "BusinessMode";
+
+Variant ColorVariant(OleColor color) { return Variant(static_cast<std::int32_t>(color)); }
+OleColor ColorOf(const Variant& value) { return static_cast<OleColor>(value.ToLong()); }
+
+void Run(const std::function<void()>& hook) {
+  if (hook) hook();
+}
+}  // namespace
+
+CommonProperties::CommonProperties(platform::ControlSurface& surface, platform::HostServices& host,
+                                   OleColor default_title_color, Hooks hooks)
+    : surface_(surface), host_(host), default_title_color_(default_title_color), hooks_(std::move(hooks)),
+      title_color_(default_title_color) {}
+
+void CommonProperties::InitNew() {
+  surface_.SetBackColor(colors::kButtonFace);
+  surface_.SetEnabled(true);
+  title_color_ = default_title_color_;
+  Run(hooks_.apply_title_color);
+}
+
+void CommonProperties::Read(const platform::PropertyBag& bag) {
+  surface_.SetBackColor(ColorOf(bag.Read(kBackColor, ColorVariant(colors::kButtonFace))));
+  surface_.SetEnabled(bag.Read(kEnabled, Variant(true)).ToBool());
+  Run(hooks_.propagate_enabled);
+  title_color_ = ColorOf(bag.Read(kBackColorTitle, ColorVariant(default_title_color_)));
+  Run(hooks_.apply_title_color);
+  business_mode_ = bag.Read(kBusinessMode, Variant(false)).ToBool();
+  Run(hooks_.business_mode_changed);
+}
+
+void CommonProperties::Write(platform::PropertyBag& bag) const {
+  bag.Write(kBackColor, ColorVariant(surface_.BackColor()), ColorVariant(colors::kButtonFace));
+  bag.Write(kEnabled, Variant(surface_.Enabled()), Variant(true));
+  bag.Write(kBackColorTitle, ColorVariant(title_color_), ColorVariant(default_title_color_));
+  bag.Write(kBusinessMode, Variant(business_mode_), Variant(false));
+}
+
+OleColor CommonProperties::BackColor() const { return surface_.BackColor(); }
+
+void CommonProperties::SetBackColor(OleColor color) {
+  surface_.SetBackColor(color);
+  host_.MarkPropertyChanged(kBackColor);
+}
+
+bool CommonProperties::Enabled() const { return surface_.Enabled(); }
+
+void CommonProperties::SetEnabled(bool enabled) {
+  surface_.SetEnabled(enabled);
+  Run(hooks_.propagate_enabled);
+}
+
+void CommonProperties::SetBackColorTitle(OleColor color) {
+  title_color_ = color;
+  Run(hooks_.apply_title_color);
+}
+
+void CommonProperties::SetBusinessMode(bool on) {
+  business_mode_ = on;
+  Run(hooks_.business_mode_changed);
+}
+
+}  // namespace zenta::entry

@@ -1,0 +1,54 @@
+#include "zenta/platform/headless/date_edit_widget.h"
+
+#include "zenta/core/date_format.h"
+
+namespace zenta::headless {
+
+DateEditWidget::DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec)
+    : WidgetBase(form, surface, spec) {}
+
+std::optional<Date> DateEditWidget::Value() const {
+  if (digits_.size() != 8) return std::nullopt;
+  return Date::Parse(digits_.substr(0, 4) + "/" + digits_.substr(4, 2) + "/" + digits_.substr(6, 2));
+}
+
+void DateEditWidget::SetValue(std::optional<Date> value) {
+  digits_.clear();
+  if (!value) return;
+  for (char c : value->ToText()) {
+    if (c != '/') digits_ += c;
+  }
+}
+
+std::string DateEditWidget::Text() const {
+  std::string text(formats::kDateMask);
+  std::size_t next = 0;
+  for (char& slot : text) {
+    if (slot == '_' && next < digits_.size()) slot = digits_[next++];
+  }
+  return text;
+}
+
+void DateEditWidget::HandleKeyDown(platform::KeyDown& key) {
+  if (key.key_code == platform::keys::kF2) {
+    digits_.clear();
+    key.key_code = 0;
+  } else if (key.key_code == platform::keys::kF3) {
+    SetValue(form_.Today());
+    key.key_code = 0;
+  }
+}
+
+void DateEditWidget::HandleCharacter(char32_t character) {
+  if (character == platform::keys::kBackspace) {
+    if (!digits_.empty()) digits_.pop_back();
+  } else if (character >= U'0' && character <= U'9' && digits_.size() < 8) {
+    digits_ += static_cast<char>(character);
+  }
+}
+
+void DateEditWidget::FocusLost() {
+  if (on_focus_lost_) on_focus_lost_();
+}
+
+}  // namespace zenta::headless

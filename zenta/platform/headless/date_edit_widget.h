@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "zenta/platform/date_edit.h"
+#include "zenta/platform/headless/widget_base.h"
+
+namespace zenta::headless {
+
+// A date edit in memory that can hold no date. Digits fill the mask "____/__/__" ("/" typed
+// is skipped); the value is the date once the eight digits form one. F2 clears, F3 puts today.
+class DateEditWidget : public WidgetBase<platform::DateEdit> {
+ public:
+  DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec);
+
+  std::optional<Date> Value() const override;
+  void SetValue(std::optional<Date> value) override;
+  std::string Text() const override;
+  OleColor CalendarTitleColor() const override { return title_color_; }
+  void SetCalendarTitleColor(OleColor color) override { title_color_ = color; }
+  void OnFocusLost(platform::Callback callback) override { on_focus_lost_ = std::move(callback); }
+
+  void HandleKeyDown(platform::KeyDown& key) override;
+  void HandleCharacter(char32_t character) override;
+  void FocusLost() override;
+
+ private:
+  std::string digits_;
+  OleColor title_color_ = 0;
+  platform::Callback on_focus_lost_;
+};
+
+}  // namespace zenta::headless

@@ -1,0 +1,162 @@
+#include "zenta/platform/headless/form.h"
+
+#include <algorithm>
+#include <ctime>
+#include <deque>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+#include "zenta/platform/headless/surface.h"
+#include "zenta/platform/headless/text_box_widget.h"
+
+namespace zenta::headless {
+
+namespace {
+constexpr int kQueueLimit = 1000;
+
+InputNode* NodeOf(const platform::Widget* widget) {
+  return dynamic_cast<InputNode*>(const_cast<platform::Widget*>(widget));
+}
+
+Date SystemToday() {
+  std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return Date::FromYmd(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday).value_or(Date());
+}
+}  // namespace
+
+struct Form::Impl {
+  std::vector<std::unique_ptr<Surface>> surfaces;
+  std::vector<std::unique_ptr<TextBoxWidget>> host_fields;
+  InputNode* focused = nullptr;
+  InputNode* gained = nullptr;  // the node whose focus-gained ran and whose focus-lost is owed
+  std::deque<platform::KeyDown> queue;
+  std::optional<Date> today;
+
+  std::vector<InputNode*> TabOrder() const {
+    std::vector<InputNode*> order;
+    for (const auto& surface : surfaces) {
+      for (const auto& node : surface->Nodes()) {
+        if (node->tab_stop()) order.push_back(node.get());
+      }
+    }
+    for (const auto& field : host_fields) order.push_back(field.get());
+    return order;
+  }
+};
+
+Form::Form() : impl_(std::make_unique<Impl>()) {}
+Form::~Form() {
+  impl_->focused = nullptr;
+  impl_->gained = nullptr;
+}
+
+Surface& Form::AddSurface(const std::string& name, int width_twips, int height_twips) {
+  impl_->surfaces.push_back(std::make_unique<Surface>(*this, name, width_twips, height_twips));
+  return *impl_->surfaces.back();
+}
+
+TextBoxWidget& Form::AddHostField(const std::string& name) {
+  platform::WidgetSpec spec;
+  spec.name = name;
+  impl_->host_fields.push_back(std::make_unique<TextBoxWidget>(*this, nullptr, spec));
+  return *impl_->host_fields.back();
+}
+
+TextBoxWidget* Form::FirstHostField() const {
+  return impl_->host_fields.empty() ? nullptr : impl_->host_fields.front().get();
+}
+
+void Form::Show() {
+  for (const auto& surface : impl_->surfaces) surface->NotifyShown();
+}
+
+platform::Widget* Form::Focused() const { return impl_->focused ? &impl_->focused->AsWidget() : nullptr; }
+
+bool Form::CanFocus(const platform::Widget* widget) const {
+  InputNode* node = NodeOf(widget);
+  if (!node || !node->Focusable() || !widget->Enabled() || !widget->Visible()) return false;
+  return !node->surface() || node->surface()->Enabled();
+}
+
+void Form::SetFocus(platform::Widget* widget) {
+  InputNode* target = widget ? NodeOf(widget) : nullptr;
+  if (widget && !CanFocus(widget)) return;
+  if (target == impl_->focused) return;
+  InputNode* old = impl_->focused;
+  impl_->focused = target;
+  if (old && old == impl_->gained) {
+    impl_->gained = nullptr;
+    old->FocusLost();
+  }
+  // A focus-lost handler may have moved the focus on; then that move has run its own gain.
+  if (target && impl_->focused == target && impl_->gained != target) {
+    impl_->gained = target;
+    target->FocusGained();
+  }
+}
+
+void Form::QueueKeys(const std::string& keys) {
+  std::size_t pos = 0;
+  while (pos < keys.size()) {
+    int shift = platform::kNoShift;
+    if (keys[pos] == '+') {
+      shift = platform::kShift;
+      ++pos;
+    }
+    std::size_t close = keys.find('}', pos);
+    if (pos >= keys.size() || keys[pos] != '{' || close == std::string::npos) {
+      throw std::invalid_argument("keystrokes not understood: " + keys);
+    }
+    std::string name = keys.substr(pos + 1, close - pos - 1);
+    int code = name == "TAB" ? platform::keys::kTab : name == "ENTER" ? platform::keys::kEnter : 0;
+    if (code == 0) throw std::invalid_argument("keystroke not understood: {" + name + "}");
+    impl_->queue.push_back(platform::KeyDown{code, shift});
+    pos = close + 1;
+  }
+}
+
+void Form::ProcessQueuedKeys() {
+  int delivered = 0;
+  while (!impl_->queue.empty()) {
+    if (++delivered > kQueueLimit) {
+      impl_->queue.clear();
+      throw std::logic_error("injected keystrokes keep injecting more: stopped after 1000");
+    }
+    platform::KeyDown key = impl_->queue.front();
+    impl_->queue.pop_front();
+    DeliverKeyDown(key);
+  }
+}
+
+bool Form::DeliverKeyDown(platform::KeyDown key) {
+  InputNode* node = impl_->focused;
+  if (node && node->surface()) node->surface()->PreviewKeyDown(key);
+  if (key.key_code == 0) return false;
+  if (impl_->focused) impl_->focused->HandleKeyDown(key);
+  if (key.key_code == 0) return false;
+  if (key.key_code == platform::keys::kTab) {
+    auto order = impl_->TabOrder();
+    std::erase_if(order, [this](InputNode* n) { return n != impl_->focused && !CanFocus(&n->AsWidget()); });
+    if (order.empty()) return false;
+    auto at = std::find(order.begin(), order.end(), impl_->focused);
+    std::ptrdiff_t index = at == order.end() ? -1 : at - order.begin();
+    auto count = static_cast<std::ptrdiff_t>(order.size());
+    std::ptrdiff_t next = (key.shift & platform::kShift) ? (index <= 0 ? count - 1 : index - 1) : (index + 1) % count;
+    SetFocus(&order[static_cast<std::size_t>(next)]->AsWidget());
+    return false;
+  }
+  if (key.key_code == platform::keys::kEnter && impl_->focused) impl_->focused->HandleCharacter(U'\r');
+  return true;
+}
+
+void Form::DeliverCharacter(char32_t character) {
+  if (impl_->focused) impl_->focused->HandleCharacter(character);
+}
+
+Date Form::Today() const { return impl_->today.value_or(SystemToday()); }
+void Form::SetToday(Date today) { impl_->today = today; }
+
+}  // namespace zenta::headless

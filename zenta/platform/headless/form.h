@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "zenta/core/date.h"
+#include "zenta/platform/keys.h"
+#include "zenta/platform/widget.h"
+
+namespace zenta::headless {
+
+class Surface;
+class TextBoxWidget;
+
+// A window in memory: it holds control surfaces and the host's own fields around them, owns
+// the focus and the input queue. Tab order is every tab-stop child of every surface, in
+// creation order, then the host's own fields, in the order added; Tab from the last wraps to
+// the first. A focus change makes the new widget the focused (and its surface's active) child
+// first, then sends the old widget its focus-lost notification, then the new one its
+// focus-gained notification — so a focus-lost handler sees where the focus went.
+class Form {
+ public:
+  Form();
+  ~Form();
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  // A surface for one control; size in twips. User mode is on unless switched off.
+  Surface& AddSurface(const std::string& name, int width_twips = 4800, int height_twips = 3600);
+  // A text box of the host's own, outside every control ("the next field on the screen").
+  TextBoxWidget& AddHostField(const std::string& name);
+  TextBoxWidget* FirstHostField() const;
+
+  // Sends every surface its shown notification.
+  void Show();
+
+  platform::Widget* Focused() const;
+  // Moves the focus (nullptr: nowhere). Ignored for a widget that cannot take it now.
+  void SetFocus(platform::Widget* widget);
+  bool CanFocus(const platform::Widget* widget) const;
+
+  // Keystrokes queued by InjectKeys ("{TAB}", "+{TAB}", "{ENTER}") and run after the handler
+  // that queued them returns; User runs them after each action.
+  void QueueKeys(const std::string& keys);
+  void ProcessQueuedKeys();
+
+  // Key delivery with full semantics: surface preview, then the focused widget, then the
+  // form's own handling (Tab and Shift+Tab move the focus). A key-down discarded on the way
+  // produces no character.
+  // Returns false when the key was discarded or consumed on the way.
+  bool DeliverKeyDown(platform::KeyDown key);
+  void DeliverCharacter(char32_t character);
+
+  // Today, for F3 in date edits and for every Host on this form: the system clock's date
+  // unless set.
+  Date Today() const;
+  void SetToday(Date today);
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace zenta::headless

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "zenta/platform/host_services.h"
+
+namespace zenta::headless {
+
+class Form;
+
+// Raised when a control shows a message box that the test or host script did not expect: a
+// failing assertion rather than a hang.
+class UnexpectedMessageBox : public std::logic_error {
+ public:
+  using std::logic_error::logic_error;
+};
+
+// Host services in memory, for one control on a Form. It records what the control asked of
+// the host — raised events (number, name, arguments after the handler ran), message boxes,
+// properties marked changed — and answers message boxes from a queue the caller fills.
+class Host : public platform::HostServices {
+ public:
+  explicit Host(Form& form) : form_(form) {}
+
+  void MarkPropertyChanged(const std::string& name) override { changed_.push_back(name); }
+  void InjectKeys(const std::string& keys) override;
+  void RaiseEvent(platform::RaisedEvent& event) override;
+  platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
+  Date Today() const override;
+  char32_t DecimalSeparator() const override { return separator_; }
+
+  // The next message box is answered with `answer`; boxes are answered in order.
+  void ExpectMessage(platform::MessageResult answer) { answers_.push_back(answer); }
+  const std::vector<platform::MessageBox>& MessagesShown() const { return messages_; }
+  std::size_t PendingAnswers() const { return answers_.size(); }
+
+  // Runs for each event before it is recorded; it may change in/out arguments.
+  void OnEvent(std::function<void(platform::RaisedEvent&)> handler) { on_event_ = std::move(handler); }
+  const std::vector<platform::RaisedEvent>& Events() const { return events_; }
+  std::vector<std::string> EventNames() const;
+  void ClearEvents() { events_.clear(); }
+
+  const std::vector<std::string>& ChangedProperties() const { return changed_; }
+
+  // Sets today for the whole form (default: the system clock's date).
+  void SetToday(Date today);
+  void SetDecimalSeparator(char32_t separator) { separator_ = separator; }
+
+ private:
+  Form& form_;
+  std::deque<platform::MessageResult> answers_;
+  std::vector<platform::MessageBox> messages_;
+  std::function<void(platform::RaisedEvent&)> on_event_;
+  std::vector<platform::RaisedEvent> events_;
+  std::vector<std::string> changed_;
+  char32_t separator_ = U'.';
+};
+
+}  // namespace zenta::headless

@@ -1,0 +1,97 @@
+#include "zenta/platform/headless/surface.h"
+
+#include "zenta/platform/headless/check_box_widget.h"
+#include "zenta/platform/headless/date_edit_widget.h"
+#include "zenta/platform/headless/form.h"
+#include "zenta/platform/headless/grid_widget.h"
+#include "zenta/platform/headless/label_widget.h"
+#include "zenta/platform/headless/number_edit_widget.h"
+#include "zenta/platform/headless/text_box_widget.h"
+
+namespace zenta::headless {
+
+Surface::Surface(Form& form, std::string name, int width_twips, int height_twips)
+    : form_(form), name_(std::move(name)), width_(width_twips), height_(height_twips) {}
+
+Surface::~Surface() = default;
+
+template <class W, class... Args>
+W& Surface::Add(Args&&... args) {
+  auto widget = std::make_unique<W>(form_, this, std::forward<Args>(args)...);
+  W& ref = *widget;
+  nodes_.push_back(std::move(widget));
+  return ref;
+}
+
+platform::NumberEdit& Surface::AddNumberEdit(const platform::WidgetSpec& spec) { return Add<NumberEditWidget>(spec); }
+platform::DateEdit& Surface::AddDateEdit(const platform::WidgetSpec& spec) { return Add<DateEditWidget>(spec); }
+platform::TextBox& Surface::AddTextBox(const platform::WidgetSpec& spec) { return Add<TextBoxWidget>(spec); }
+platform::CheckBox& Surface::AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) {
+  return Add<CheckBoxWidget>(spec, caption);
+}
+platform::Label& Surface::AddLabel(const platform::WidgetSpec& spec, const std::string& caption) {
+  platform::WidgetSpec label = spec;
+  label.tab_stop = false;
+  return Add<LabelWidget>(label, caption);
+}
+platform::Grid& Surface::AddGrid(const platform::WidgetSpec& spec, int column_count) {
+  return Add<GridWidget>(spec, column_count);
+}
+platform::NumberEdit& Surface::AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) {
+  platform::WidgetSpec editor = spec;
+  editor.tab_stop = false;
+  auto& edit = Add<NumberEditWidget>(editor);
+  grid.SetColumnEditor(column, &edit);
+  return edit;
+}
+
+std::vector<platform::Widget*> Surface::Children() const {
+  std::vector<platform::Widget*> children;
+  children.reserve(nodes_.size());
+  for (const auto& node : nodes_) children.push_back(&node->AsWidget());
+  return children;
+}
+
+platform::Widget* Surface::ActiveChild() const {
+  platform::Widget* focused = form_.Focused();
+  for (const auto& node : nodes_) {
+    if (&node->AsWidget() == focused) return focused;
+  }
+  return nullptr;
+}
+
+void Surface::SetWidth(int twips) {
+  if (twips == width_) return;
+  width_ = twips;
+  if (on_resize_) on_resize_();
+}
+
+void Surface::SetHeight(int twips) {
+  if (twips == height_) return;
+  height_ = twips;
+  if (on_resize_) on_resize_();
+}
+
+void Surface::SetSize(int width_twips, int height_twips) {
+  if (width_twips == width_ && height_twips == height_) return;
+  width_ = width_twips;
+  height_ = height_twips;
+  if (on_resize_) on_resize_();
+}
+
+platform::Widget* Surface::Find(const std::string& name) const {
+  for (const auto& node : nodes_) {
+    if (node->AsWidget().Name() == name) return &node->AsWidget();
+  }
+  return nullptr;
+}
+
+void Surface::PreviewKeyDown(platform::KeyDown& key) {
+  if (on_key_down_) on_key_down_(key);
+}
+
+void Surface::NotifyShown() {
+  if (on_shown_) on_shown_();
+}
+
+}  // namespace zenta::headless

@@ -1,0 +1,24 @@
+#include "zenta/platform/headless/text_box_widget.h"
+
+#include "zenta/core/utf8.h"
+
+namespace zenta::headless {
+
+TextBoxWidget::TextBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec)
+    : WidgetBase(form, surface, spec) {}
+
+void TextBoxWidget::HandleCharacter(char32_t character) {
+  platform::KeyPress press{character};
+  if (filter_) filter_(press);
+  if (press.key == 0) return;
+  if (press.key == platform::keys::kBackspace) {
+    std::u32string points = utf8::Decode(text_);
+    if (!points.empty()) points.pop_back();
+    text_ = utf8::Encode(points);
+    return;
+  }
+  if (press.key < 32) return;  // Enter and other control keys do not enter a single-line box
+  text_ += utf8::Encode(press.key);
+}
+
+}  // namespace zenta::headless

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string_view>
+
+#include "zenta/platform/keys.h"
+#include "zenta/platform/widget.h"
+
+namespace zenta::headless {
+
+class Form;
+
+// A person at the keyboard, for tests and host scripts that read like what a payer does.
+// Every action is synchronous and runs the keystrokes that handlers injected before it
+// returns.
+class User {
+ public:
+  explicit User(Form& form) : form_(form) {}
+
+  // Each character (UTF-8): a key-down through the surface preview, then, unless discarded, a
+  // key-press through the focused widget's filters into its text. "\t" and "\r" act as Tab
+  // and Enter.
+  void Type(std::string_view text);
+  void PressTab() { PressKey(platform::keys::kTab); }
+  void PressShiftTab() { PressKey(platform::keys::kTab, platform::kShift); }
+  void PressEnter(int shift = platform::kNoShift) { PressKey(platform::keys::kEnter, shift); }
+  void PressKey(int key_code, int shift = platform::kNoShift);
+  void PressBackspace();
+  // Focus to the widget as a mouse click does (ignored when it cannot take the focus); a
+  // check box also toggles.
+  void Click(platform::Widget& widget);
+  // Focus to the widget without clicking it.
+  void Focus(platform::Widget& widget);
+  // Focus to the first host field outside every control (or nowhere if there is none).
+  void LeaveControl();
+
+ private:
+  Form& form_;
+};
+
+}  // namespace zenta::headless

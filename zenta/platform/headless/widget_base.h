@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+#include "zenta/platform/headless/form.h"
+#include "zenta/platform/headless/input_node.h"
+#include "zenta/platform/widget.h"
+
+namespace zenta::headless {
+
+// The state every headless widget shares — name, enabled, visible, focus — on top of the
+// platform interface it implements.
+template <class Interface>
+class WidgetBase : public Interface, public InputNode {
+ public:
+  WidgetBase(Form& form, Surface* surface, const platform::WidgetSpec& spec)
+      : InputNode(form, surface, spec.tab_stop), name_(spec.name), tooltip_(spec.tooltip), rect_(spec.rect) {}
+
+  platform::Widget& AsWidget() override { return *this; }
+  const std::string& Name() const override { return name_; }
+  bool Enabled() const override { return enabled_; }
+  void SetEnabled(bool enabled) override { enabled_ = enabled; }
+  bool Visible() const override { return visible_; }
+  void SetVisible(bool visible) override { visible_ = visible; }
+  void SetFocus() override { form_.SetFocus(this); }
+  bool HasFocus() const override { return form_.Focused() == this; }
+
+  const std::string& Tooltip() const { return tooltip_; }
+  const platform::TwipsRect& Rect() const { return rect_; }
+
+ private:
+  std::string name_;
+  std::string tooltip_;
+  platform::TwipsRect rect_;
+  bool enabled_ = true;
+  bool visible_ = true;
+};
+
+}  // namespace zenta::headless
