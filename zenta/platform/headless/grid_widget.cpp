@@ -1,14 +1,10 @@
 #include "zenta/platform/headless/grid_widget.h"
 
 #include "zenta/core/utf8.h"
+#include "zenta/platform/grid_navigation.h"
 #include "zenta/platform/headless/number_edit_widget.h"
 
 namespace zenta::headless {
-
-namespace {
-constexpr int kUp = 38;
-constexpr int kDown = 40;
-}  // namespace
 
 GridWidget::GridWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec, int column_count)
     : WidgetBase(form, surface, spec), captions_(static_cast<std::size_t>(column_count)) {}
@@ -149,40 +145,18 @@ void GridWidget::EndEditFromEditor(platform::KeyDown& key) {
 
 void GridWidget::HandleKeyDown(platform::KeyDown& key) {
   bool enter_or_tab = key.key_code == platform::keys::kEnter || key.key_code == platform::keys::kTab;
-  if (enter_or_tab || key.key_code == kUp || key.key_code == kDown) EndEdit();
+  if (enter_or_tab || key.key_code == platform::keys::kUp || key.key_code == platform::keys::kDown) EndEdit();
   if (on_key_down_) on_key_down_(key);
   if (key.key_code != 0) Navigate(key);
 }
 
 void GridWidget::Navigate(platform::KeyDown& key) {
   if (!current_row_ || !array_) return;
-  if (key.key_code == kUp || key.key_code == kDown) {
-    SetCurrentRow(*current_row_ + (key.key_code == kUp ? -1 : 1));
-    key.key_code = 0;
-    return;
-  }
-  if (key.key_code != platform::keys::kEnter && key.key_code != platform::keys::kTab) return;
-  bool backwards = (key.shift & platform::kShift) != 0;
-  if (backwards) {
-    if (current_column_ > 0) {
-      --current_column_;
-    } else if (*current_row_ > array_->LowerBound(1)) {
-      current_column_ = ColumnCount() - 1;
-      SetCurrentRow(*current_row_ - 1);
-    } else {
-      return;  // Shift+Tab from the first cell leaves the grid
-    }
-    key.key_code = 0;
-    return;
-  }
-  if (current_column_ + 1 < ColumnCount()) {
-    ++current_column_;
-  } else if (*current_row_ < array_->UpperBound(1)) {
-    current_column_ = 0;
-    SetCurrentRow(*current_row_ + 1);
-  } else if (key.key_code == platform::keys::kTab) {
-    return;  // Tab from the last cell leaves the grid
-  }
+  auto next = platform::NextGridCell({*current_row_, current_column_}, array_->LowerBound(1), array_->UpperBound(1),
+                                     ColumnCount(), key);
+  if (!next) return;
+  current_column_ = next->column;
+  SetCurrentRow(next->row);
   key.key_code = 0;
 }
 

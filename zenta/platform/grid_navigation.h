@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+#include "zenta/platform/keys.h"
+
+namespace zenta::platform {
+
+// Where a grid's own Enter/Tab/arrow navigation goes from a cell, shared by every toolkit so
+// grids move alike everywhere. Rows are array rows (first_row..last_row), columns 0..columns-1.
+// nullopt means the key is not the grid's: Tab from the last cell (or Shift+Tab from the first)
+// leaves the grid, and other keys are not navigation.
+struct GridCell {
+  int row = 0;
+  int column = 0;
+  friend bool operator==(const GridCell&, const GridCell&) = default;
+};
+
+namespace keys {
+inline constexpr int kUp = 38;
+inline constexpr int kDown = 40;
+}  // namespace keys
+
+std::optional<GridCell> NextGridCell(GridCell from, int first_row, int last_row, int columns, const KeyDown& key);
+
+}  // namespace zenta::platform
