@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "zenta/platform/headless/surface.h"
+#include "zenta/platform/key_script.h"
 #include "zenta/platform/headless/text_box_widget.h"
 
 namespace zenta::headless {
@@ -99,23 +100,7 @@ void Form::SetFocus(platform::Widget* widget) {
 }
 
 void Form::QueueKeys(const std::string& keys) {
-  std::size_t pos = 0;
-  while (pos < keys.size()) {
-    int shift = platform::kNoShift;
-    if (keys[pos] == '+') {
-      shift = platform::kShift;
-      ++pos;
-    }
-    std::size_t close = keys.find('}', pos);
-    if (pos >= keys.size() || keys[pos] != '{' || close == std::string::npos) {
-      throw std::invalid_argument("keystrokes not understood: " + keys);
-    }
-    std::string name = keys.substr(pos + 1, close - pos - 1);
-    int code = name == "TAB" ? platform::keys::kTab : name == "ENTER" ? platform::keys::kEnter : 0;
-    if (code == 0) throw std::invalid_argument("keystroke not understood: {" + name + "}");
-    impl_->queue.push_back(platform::KeyDown{code, shift});
-    pos = close + 1;
-  }
+  for (const platform::KeyDown& key : platform::ParseKeyScript(keys)) impl_->queue.push_back(key);
 }
 
 void Form::ProcessQueuedKeys() {

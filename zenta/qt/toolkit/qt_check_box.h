@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QCheckBox>
+
+#include "zenta/platform/check_box.h"
+#include "zenta/qt/toolkit/qt_widget_base.h"
+
+namespace zenta::qt {
+
+// A check box whose click notification runs for the user's clicks and for program changes of
+// its state alike.
+class QtCheckBox : public QCheckBox, public QtWidgetBase<platform::CheckBox> {
+ public:
+  QtCheckBox(QWidget* parent, const platform::WidgetSpec& spec, const std::string& caption);
+
+  int State() const override;
+  void SetState(int state) override;
+  void SetCaption(const std::string& caption) override { setText(ToQString(caption)); }
+  void OnClick(platform::Callback callback) override { on_click_ = std::move(callback); }
+
+ private:
+  platform::Callback on_click_;
+};
+
+}  // namespace zenta::qt

@@ -1,0 +1,143 @@
+#include "zenta/qt/toolkit/qt_surface.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "zenta/qt/toolkit/key_mapping.h"
+#include "zenta/qt/toolkit/qt_array_grid.h"
+#include "zenta/qt/toolkit/qt_check_box.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/qt_date_edit.h"
+#include "zenta/qt/toolkit/qt_label.h"
+#include "zenta/qt/toolkit/qt_number_edit.h"
+#include "zenta/qt/toolkit/qt_text_box.h"
+
+namespace zenta::qt {
+
+namespace {
+constexpr double kTwipsPerInch = 1440.0;
+}
+
+QtSurface::QtSurface(QWidget* parent) : QWidget(parent) {
+  QFont small = font();
+  small.setPointSize(8);  // the controls are laid out for an 8-point dialog font
+  setFont(small);
+  SetBackColor(colors::kButtonFace);
+}
+
+int QtSurface::ToPixels(int twips) const { return qRound(twips * logicalDpiX() / kTwipsPerInch); }
+int QtSurface::ToTwips(int pixels) const { return qRound(pixels * kTwipsPerInch / logicalDpiX()); }
+
+QRect QtSurface::PixelRect(const platform::TwipsRect& rect) const {
+  return QRect(ToPixels(rect.left), ToPixels(rect.top), ToPixels(rect.width), ToPixels(rect.height));
+}
+
+template <class W>
+W& QtSurface::Register(W* widget, const platform::WidgetSpec& spec, QWidget& focus_target) {
+  widget->setGeometry(PixelRect(spec.rect));
+  if (!spec.tab_stop && focus_target.focusPolicy() != Qt::NoFocus) focus_target.setFocusPolicy(Qt::ClickFocus);
+  focus_target.installEventFilter(this);
+  children_.push_back(widget);
+  by_qwidget_[widget] = widget;
+  qwidget_by_name_[spec.name] = widget;
+  return *widget;
+}
+
+platform::NumberEdit& QtSurface::AddNumberEdit(const platform::WidgetSpec& spec) {
+  auto* edit = new QtNumberEdit(this, spec);
+  return Register(edit, spec, *edit);
+}
+
+platform::DateEdit& QtSurface::AddDateEdit(const platform::WidgetSpec& spec) {
+  auto* date = new QtDateEdit(this, spec);
+  return Register(date, spec, date->Editor());
+}
+
+platform::TextBox& QtSurface::AddTextBox(const platform::WidgetSpec& spec) {
+  auto* box = new QtTextBox(this, spec);
+  return Register(box, spec, *box);
+}
+
+platform::CheckBox& QtSurface::AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) {
+  auto* box = new QtCheckBox(this, spec, caption);
+  return Register(box, spec, *box);
+}
+
+platform::Label& QtSurface::AddLabel(const platform::WidgetSpec& spec, const std::string& caption) {
+  auto* label = new QtLabel(this, spec, caption);
+  label->setFocusPolicy(Qt::NoFocus);
+  return Register(label, spec, *label);
+}
+
+platform::Grid& QtSurface::AddGrid(const platform::WidgetSpec& spec, int column_count) {
+  auto* grid = new QtArrayGrid(this, spec, column_count);
+  return Register(grid, spec, *grid);
+}
+
+platform::NumberEdit& QtSurface::AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) {
+  auto* edit = new QtNumberEdit(this, spec);
+  edit->setFocusPolicy(Qt::ClickFocus);
+  edit->installEventFilter(this);
+  children_.push_back(edit);
+  by_qwidget_[edit] = edit;
+  qwidget_by_name_[spec.name] = edit;
+  grid.SetColumnEditor(column, edit);
+  return *edit;
+}
+
+platform::Widget* QtSurface::ActiveChild() const {
+  for (const QWidget* focused = QApplication::focusWidget(); focused && focused != this;
+       focused = focused->parentWidget()) {
+    auto found = by_qwidget_.find(focused);
+    if (found != by_qwidget_.end()) return found->second;
+  }
+  return nullptr;
+}
+
+void QtSurface::SetBackColor(OleColor color) {
+  back_color_ = color;
+  setAutoFillBackground(true);
+  QPalette p = palette();
+  p.setColor(QPalette::Window, ToQColor(color, QPalette()));
+  setPalette(p);
+}
+
+platform::Widget* QtSurface::Find(const std::string& name) const {
+  for (platform::Widget* child : children_) {
+    if (child->Name() == name) return child;
+  }
+  return nullptr;
+}
+
+QWidget* QtSurface::FindQWidget(const std::string& name) const {
+  auto found = qwidget_by_name_.find(name);
+  return found == qwidget_by_name_.end() ? nullptr : found->second;
+}
+
+bool QtSurface::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && on_key_down_) {
+    auto* key_event = static_cast<QKeyEvent*>(event);
+    // A key a child ignores travels on to its parent: preview it once only.
+    if (event == last_previewed_ && key_event->timestamp() == last_previewed_time_) return false;
+    last_previewed_ = event;
+    last_previewed_time_ = key_event->timestamp();
+    platform::KeyDown key = ToKeyDown(*key_event);
+    on_key_down_(key);
+    if (key.key_code == 0) return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void QtSurface::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (on_resize_) on_resize_();
+}
+
+void QtSurface::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (shown_once_) return;
+  shown_once_ = true;
+  if (on_shown_) on_shown_();
+}
+
+}  // namespace zenta::qt

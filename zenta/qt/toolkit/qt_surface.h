@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <vector>
+
+#include "zenta/platform/control_surface.h"
+
+namespace zenta::qt {
+
+// A control's area as a QWidget. It creates the control's children at their twips rectangles
+// (through the screen's logical DPI), in tab order, previews every key they receive before
+// they do, and reports the focused child as the active one.
+class QtSurface : public QWidget, public platform::ControlSurface {
+ public:
+  explicit QtSurface(QWidget* parent = nullptr);
+
+  platform::NumberEdit& AddNumberEdit(const platform::WidgetSpec& spec) override;
+  platform::DateEdit& AddDateEdit(const platform::WidgetSpec& spec) override;
+  platform::TextBox& AddTextBox(const platform::WidgetSpec& spec) override;
+  platform::CheckBox& AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) override;
+  platform::Label& AddLabel(const platform::WidgetSpec& spec, const std::string& caption) override;
+  platform::Grid& AddGrid(const platform::WidgetSpec& spec, int column_count) override;
+  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) override;
+
+  std::vector<platform::Widget*> Children() const override { return children_; }
+  platform::Widget* ActiveChild() const override;
+
+  OleColor BackColor() const override { return back_color_; }
+  void SetBackColor(OleColor color) override;
+  bool Enabled() const override { return isEnabled(); }
+  void SetEnabled(bool enabled) override { setEnabled(enabled); }
+  int Width() const override { return ToTwips(width()); }
+  int Height() const override { return ToTwips(height()); }
+  void SetWidth(int twips) override { resize(ToPixels(twips), height()); }
+  void SetHeight(int twips) override { resize(width(), ToPixels(twips)); }
+  bool UserMode() const override { return user_mode_; }
+
+  void OnKeyDown(std::function<void(platform::KeyDown&)> handler) override { on_key_down_ = std::move(handler); }
+  void OnResize(platform::Callback callback) override { on_resize_ = std::move(callback); }
+  void OnShown(platform::Callback callback) override { on_shown_ = std::move(callback); }
+
+  void SetUserMode(bool user_mode) { user_mode_ = user_mode; }
+  platform::Widget* Find(const std::string& name) const;
+  QWidget* FindQWidget(const std::string& name) const;
+  int ToPixels(int twips) const;
+  int ToTwips(int pixels) const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  template <class W>
+  W& Register(W* widget, const platform::WidgetSpec& spec, QWidget& focus_target);
+  QRect PixelRect(const platform::TwipsRect& rect) const;
+
+  std::vector<platform::Widget*> children_;
+  std::map<const QWidget*, platform::Widget*> by_qwidget_;
+  std::map<std::string, QWidget*> qwidget_by_name_;
+  OleColor back_color_ = colors::kButtonFace;
+  bool user_mode_ = true;
+  bool shown_once_ = false;
+  const QEvent* last_previewed_ = nullptr;
+  quint64 last_previewed_time_ = 0;
+  std::function<void(platform::KeyDown&)> on_key_down_;
+  platform::Callback on_resize_;
+  platform::Callback on_shown_;
+};
+
+}  // namespace zenta::qt

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+#include <string>
+
+#include "zenta/platform/widget.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
+
+namespace zenta::qt {
+
+// The platform::Widget members every Qt adapter answers the same way from its QWidget. The
+// enabled state is the widget's own, not inherited from a disabled control.
+template <class Interface>
+class QtWidgetBase : public Interface {
+ public:
+  explicit QtWidgetBase(QWidget& widget, const platform::WidgetSpec& spec) : widget_(widget), name_(spec.name) {
+    widget_.setObjectName(ToQString(spec.name));
+    if (!spec.tooltip.empty()) widget_.setToolTip(ToQString(spec.tooltip));
+  }
+
+  const std::string& Name() const override { return name_; }
+  bool Enabled() const override { return widget_.parentWidget() ? widget_.isEnabledTo(widget_.parentWidget()) : widget_.isEnabled(); }
+  void SetEnabled(bool enabled) override { widget_.setEnabled(enabled); }
+  bool Visible() const override { return !widget_.isHidden(); }
+  void SetVisible(bool visible) override { widget_.setVisible(visible); }
+  void SetFocus() override {
+    if (Enabled() && Visible()) FocusTarget().setFocus(Qt::OtherFocusReason);
+  }
+  bool HasFocus() const override { return const_cast<QtWidgetBase*>(this)->FocusTarget().hasFocus(); }
+
+ protected:
+  // The widget that really takes the focus (a composite's inner editor).
+  virtual QWidget& FocusTarget() { return widget_; }
+
+ private:
+  QWidget& widget_;
+  std::string name_;
+};
+
+// Focus changes Qt reports that are not the user leaving a field: a message box or popup
+// opening, or the window losing activation.
+inline bool IsTransientFocusChange(Qt::FocusReason reason) {
+  return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
+}  // namespace zenta::qt
