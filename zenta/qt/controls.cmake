@@ -1,0 +1,15 @@
+# The public Qt control classes.
+add_library(zenta_qt STATIC
+  control_widget.cpp
+  govt_details.cpp
+  pmt_details.cpp
+  std_payment.cpp)
+target_link_libraries(zenta_qt PUBLIC zenta_qt_toolkit zenta_controls_simple Qt6::Widgets)
+zenta_warnings(zenta_qt)
+
+find_package(Qt6 QUIET COMPONENTS Designer UiPlugin)
+if(Qt6Designer_FOUND)
+  add_subdirectory(designer)
+else()
+  message(STATUS "Qt Designer development files not found: the Designer plugin is skipped")
+endif()

@@ -1,0 +1,28 @@
+#include "zenta/qt/designer/control_collection.h"
+
+#include "zenta/qt/designer/control_plugin.h"
+#include "zenta/qt/govt_details.h"
+#include "zenta/qt/pmt_details.h"
+#include "zenta/qt/std_payment.h"
+
+namespace zenta::qt {
+
+ControlCollection::ControlCollection(QObject* parent) : QObject(parent) {
+  widgets_.append(new ControlPlugin(
+      {"zenta::qt::StdPayment", "zenta/qt/std_payment.h", "Payment amount with GST/HST",
+       "One payment amount and, for a business payer, the GST/HST part of it. Amounts are typed as cents.",
+       ":/zenta/designer/std_payment.svg"},
+      [](QWidget* form) { return new StdPayment(form); }, this));
+  widgets_.append(new ControlPlugin(
+      {"zenta::qt::PmtDetails", "zenta/qt/pmt_details.h", "One invoice: date, number, amount, GST/HST",
+       "The date, number or description, amount and GST/HST of the single invoice a payment settles.",
+       ":/zenta/designer/pmt_details.svg"},
+      [](QWidget* form) { return new PmtDetails(form); }, this));
+  widgets_.append(new ControlPlugin(
+      {"zenta::qt::GovtDetails", "zenta/qt/govt_details.h", "Government remittance",
+       "Periods, due date, statement-only flag, comments, amounts and up to 26 lettered line items.",
+       ":/zenta/designer/govt_details.svg"},
+      [](QWidget* form) { return new GovtDetails(form); }, this));
+}
+
+}  // namespace zenta::qt

@@ -1,0 +1,22 @@
+#include "zenta/qt/designer/control_plugin.h"
+
+#include <QIcon>
+
+namespace zenta::qt {
+
+ControlPlugin::ControlPlugin(Description description, std::function<QWidget*(QWidget*)> factory, QObject* parent)
+    : QObject(parent), description_(std::move(description)), factory_(std::move(factory)) {}
+
+QIcon ControlPlugin::icon() const { return QIcon(description_.icon); }
+
+QString ControlPlugin::domXml() const {
+  // The object name a new instance gets on the form: the class name without its namespace.
+  QString object_name = description_.class_name.section("::", -1);
+  object_name[0] = object_name[0].toLower();
+  return QString("<ui language=\"c++\"><widget class=\"%1\" name=\"%2\">"
+                 "<property name=\"BusinessMode\"><bool>false</bool></property>"
+                 "</widget></ui>")
+      .arg(description_.class_name, object_name);
+}
+
+}  // namespace zenta::qt
