@@ -19,8 +19,8 @@ Variant VariantOf(const std::optional<Currency>& value) { return value ? Variant
 
 GovtDetails::Widgets GovtDetails::Build(platform::ControlSurface& surface) {
   auto& statement = surface.AddCheckBox({"chkStatementOnly", {60, 60, 1740, 300}}, "Statement of Account only");
-  surface.AddLabel({"lblPeriodFrom", {60, 420, 900, 240}}, "Period From");
-  surface.AddLabel({"lblDateHint", {960, 420, 840, 240}}, "YYYY/MM/DD");
+  surface.AddLabel({"lblPeriodFrom", {60, 420, 800, 240}}, "Period From");
+  surface.AddLabel({"lblDateHint", {900, 420, 900, 240}}, "YYYY/MM/DD");
   auto& from = surface.AddDateEdit(
       {"dtPeriodFrom", {60, 660, 1740, 300}, "Enter the start of the period for this payment"});
   surface.AddLabel({"lblPeriodTo", {60, 1020, 1740, 240}}, "Period To");
@@ -28,16 +28,16 @@ GovtDetails::Widgets GovtDetails::Build(platform::ControlSurface& surface) {
   surface.AddLabel({"lblDueDate", {60, 1620, 1740, 240}}, "Due Date");
   auto& due = surface.AddDateEdit(
       {"dtDueDate", {60, 1860, 1740, 300}, "Enter the date on which the payment is due"});
-  auto& items = surface.AddGrid({"grItems", {60, 2220, 1740, 1440}}, 2);
+  auto& items = surface.AddGrid({"grItems", {60, 2220, 1740, 1200}}, 2);
   auto& entry = surface.AddGridEditor({"txtGridEntry", {0, 0, 0, 0}, "Enter the amount of the payment"}, items, 1);
-  surface.AddLabel({"lblComments", {60, 3720, 1740, 240}}, "Comments / Contact");
+  surface.AddLabel({"lblComments", {60, 3480, 1740, 240}}, "Comments / Contact");
   auto& comments = surface.AddTextBox(
-      {"txtComments", {60, 3960, 1740, 300}, "Enter applicable comments / contact information"});
-  surface.AddLabel({"lblPaymentAmount", {60, 4320, 840, 300}}, "Amount of Payment");
-  auto& amount = surface.AddNumberEdit({"txtPaymentAmount", {960, 4320, 840, 300}, "Enter the amount of the payment"});
-  surface.AddLabel({"lblOtherAmount", {60, 4680, 840, 300}}, "Other Amount");
+      {"txtComments", {60, 3720, 1740, 300}, "Enter applicable comments / contact information"});
+  surface.AddLabel({"lblPaymentAmount", {60, 4080, 1740, 240}}, "Amount of Payment");
+  auto& amount = surface.AddNumberEdit({"txtPaymentAmount", {60, 4320, 1740, 300}, "Enter the amount of the payment"});
+  surface.AddLabel({"lblOtherAmount", {60, 4680, 1740, 240}}, "Other Amount");
   auto& other = surface.AddNumberEdit(
-      {"txtOtherAmount", {960, 4680, 840, 300}, "Enter the other amount of the payment"});
+      {"txtOtherAmount", {60, 4920, 1740, 300}, "Enter the other amount of the payment"});
   return {statement, from, to, due, items, entry, comments, amount, other};
 }
 

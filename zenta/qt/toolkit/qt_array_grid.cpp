@@ -31,7 +31,7 @@ QtArrayGrid::QtArrayGrid(QWidget* parent, const platform::WidgetSpec& spec, int 
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
   verticalHeader()->hide();
-  horizontalHeader()->setStretchLastSection(true);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& current, const QModelIndex& previous) {
             if (current.row() != previous.row()) CurrentRowMoved(previous.isValid() ? model_->BookmarkOf(previous.row()) : -1);

@@ -1,6 +1,7 @@
 #include "zenta/qt/toolkit/qt_surface.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <QKeyEvent>
 
 #include "zenta/qt/toolkit/key_mapping.h"
@@ -25,8 +26,16 @@ QtSurface::QtSurface(QWidget* parent) : QWidget(parent) {
   SetBackColor(colors::kButtonFace);
 }
 
-int QtSurface::ToPixels(int twips) const { return qRound(twips * logicalDpiX() / kTwipsPerInch); }
-int QtSurface::ToTwips(int pixels) const { return qRound(pixels * kTwipsPerInch / logicalDpiX()); }
+double QtSurface::PixelsPerTwip() const {
+  // Twips become pixels through the screen's logical DPI. The layouts were drawn for an 8-point
+  // dialog font about 5 pixels a character wide at 96 DPI; a wider font widens them in step, so
+  // captions are not cut.
+  double font_scale = fontMetrics().averageCharWidth() / (5.0 * logicalDpiX() / 96.0);
+  return logicalDpiX() / kTwipsPerInch * std::clamp(font_scale, 1.0, 2.0);
+}
+
+int QtSurface::ToPixels(int twips) const { return qRound(twips * PixelsPerTwip()); }
+int QtSurface::ToTwips(int pixels) const { return qRound(pixels / PixelsPerTwip()); }
 
 QRect QtSurface::PixelRect(const platform::TwipsRect& rect) const {
   return QRect(ToPixels(rect.left), ToPixels(rect.top), ToPixels(rect.width), ToPixels(rect.height));
@@ -116,12 +125,9 @@ QWidget* QtSurface::FindQWidget(const std::string& name) const {
 
 bool QtSurface::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && on_key_down_) {
-    auto* key_event = static_cast<QKeyEvent*>(event);
-    // A key a child ignores travels on to its parent: preview it once only.
-    if (event == last_previewed_ && key_event->timestamp() == last_previewed_time_) return false;
-    last_previewed_ = event;
-    last_previewed_time_ = key_event->timestamp();
-    platform::KeyDown key = ToKeyDown(*key_event);
+    // A key a child ignores travels on to its parents: preview it where it starts only.
+    if (watched != QApplication::focusWidget()) return QWidget::eventFilter(watched, event);
+    platform::KeyDown key = ToKeyDown(*static_cast<QKeyEvent*>(event));
     on_key_down_(key);
     if (key.key_code == 0) return true;
   }

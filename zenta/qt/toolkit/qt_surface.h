@@ -45,6 +45,7 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   QWidget* FindQWidget(const std::string& name) const;
   int ToPixels(int twips) const;
   int ToTwips(int pixels) const;
+  double PixelsPerTwip() const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -62,8 +63,6 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   OleColor back_color_ = colors::kButtonFace;
   bool user_mode_ = true;
   bool shown_once_ = false;
-  const QEvent* last_previewed_ = nullptr;
-  quint64 last_previewed_time_ = 0;
   std::function<void(platform::KeyDown&)> on_key_down_;
   platform::Callback on_resize_;
   platform::Callback on_shown_;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMainWindow>
+
+class QCheckBox;
+class QListWidget;
+class QPlainTextEdit;
+
+namespace zenta::qt {
+class GovtDetails;
+class PmtDetails;
+class StdPayment;
+}  // namespace zenta::qt
+
+namespace zenta::demo {
+
+// A bill-payment screen as a host would build it: the three controls, a business-payer switch,
+// the values the host reads, and a live log of the events it receives.
+class DemoWindow : public QMainWindow {
+ public:
+  DemoWindow();
+
+  qt::StdPayment& Payment() { return *payment_; }
+  qt::PmtDetails& Invoice() { return *invoice_; }
+  qt::GovtDetails& Remittance() { return *remittance_; }
+  QCheckBox& BusinessSwitch() { return *business_; }
+
+  // What a host reads from the controls, one value a line.
+  QStringList HostValues() const;
+  QStringList EventLog() const;
+  void RefreshValues();
+
+ private:
+  void Log(const QString& control, int number, const QString& name, const QVariantList& args);
+
+  qt::StdPayment* payment_;
+  qt::PmtDetails* invoice_;
+  qt::GovtDetails* remittance_;
+  QCheckBox* business_;
+  QPlainTextEdit* values_;
+  QListWidget* events_;
+};
+
+}  // namespace zenta::demo
