@@ -7,8 +7,7 @@ add_library(zenta_qt STATIC
 target_link_libraries(zenta_qt PUBLIC zenta_qt_toolkit zenta_controls_simple Qt6::Widgets)
 zenta_warnings(zenta_qt)
 
-find_package(Qt6 QUIET COMPONENTS Designer UiPlugin)
-if(Qt6Designer_FOUND)
+if(TARGET Qt6::UiPlugin)
   add_subdirectory(designer)
 else()
   message(STATUS "Qt Designer development files not found: the Designer plugin is skipped")

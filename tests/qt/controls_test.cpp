@@ -1,0 +1,201 @@
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "zenta/qt/govt_details.h"
+#include "zenta/qt/pmt_details.h"
+#include "zenta/qt/std_payment.h"
+#include "zenta/qt/toolkit/qt_surface.h"
+
+namespace zenta::qt {
+
+// The controls as real widgets, driven with real key events: they must give the values and
+// events the headless toolkit gives.
+class ControlsTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<QWidget> window_;
+  QLineEdit* after_ = nullptr;
+
+  template <class C>
+  C* Place() {
+    window_ = std::make_unique<QWidget>();
+    auto* layout = new QVBoxLayout(window_.get());
+    auto* control = new C;
+    layout->addWidget(control);
+    after_ = new QLineEdit;
+    after_->setObjectName("hostField");
+    layout->addWidget(after_);
+    window_->show();
+    if (!QTest::qWaitForWindowActive(window_.get())) return nullptr;
+    return control;
+  }
+  static void Type(const char* text) {
+    QTest::keyClicks(QApplication::focusWidget(), text);
+    QCoreApplication::processEvents();
+  }
+  static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    QCoreApplication::processEvents();
+  }
+  static QString Shown(ControlWidget& control, const char* name) {
+    return qobject_cast<QLineEdit*>(control.Surface().FindQWidget(name))->text();
+  }
+
+ private slots:
+  void cleanup() { window_.reset(); }
+
+  void typingCentsThenTabShowsTwoDecimalsAndRaisesTheFieldEventOnly() {
+    auto* payment = Place<StdPayment>();
+    QVERIFY(payment);
+    payment->SetBusinessMode(true);
+    QSignalSpy field(payment, &StdPayment::LostFocusPaymentAmount);
+    QSignalSpy left(payment, &StdPayment::LostFocusAmount);
+    QSignalSpy numbered(payment, &ControlWidget::EventRaised);
+    payment->SetFocusPaymentAmount();
+    Type("2500");
+    Press(Qt::Key_Tab);
+    QCOMPARE(Shown(*payment, "txtPaymentAmount"), QString("25.00"));
+    QCOMPARE(payment->PaymentAmount(), 25.0f);
+    QCOMPARE(field.count(), 1);
+    QCOMPARE(left.count(), 0);
+    QCOMPARE(numbered.count(), 1);
+    QCOMPARE(numbered.at(0).at(0).toInt(), 1);
+  }
+
+  void businessModeFillsAnEmptyGstWithZeroOnLeaving() {
+    auto* payment = Place<StdPayment>();
+    QVERIFY(payment);
+    payment->SetBusinessMode(true);
+    QSignalSpy left(payment, &StdPayment::LostFocusAmount);
+    payment->SetFocusGSTAmount();
+    Press(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), after_);
+    QCOMPARE(left.count(), 1);
+    QCOMPARE(payment->property("GSTAmount").toString(), QString("0"));
+    QCOMPARE(Shown(*payment, "txtGSTAmount"), QString("0.00"));
+  }
+
+  void enterMovesOnButShiftEnterDoesNot() {
+    auto* payment = Place<StdPayment>();
+    QVERIFY(payment);
+    payment->SetBusinessMode(true);
+    payment->SetFocusPaymentAmount();
+    QWidget* amount = QApplication::focusWidget();
+    Press(Qt::Key_Return, Qt::ShiftModifier);
+    Press(Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(QApplication::focusWidget(), amount);
+    Press(Qt::Key_Return);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QString("txtGSTAmount"));
+  }
+
+  void theInvoiceDateTakesTypedDatesAndTheEmptyState() {
+    auto* invoice = Place<PmtDetails>();
+    QVERIFY(invoice);
+    invoice->SetFocusInvoiceDate();
+    Type("20261122");
+    QCOMPARE(invoice->InvoiceDate(), QDate(2026, 11, 22));
+    Press(Qt::Key_Return);
+    Type("abc-12");
+    QCOMPARE(invoice->InvoiceNumber(), QString("ABC-12"));
+    invoice->Clear();
+    QVERIFY(invoice->InvoiceDate().isNull());
+    Press(Qt::Key_Tab);
+    QVERIFY(invoice->InvoiceDate().isNull());
+  }
+
+  void statementOnlyGreysTheFieldsAndRestoresThem() {
+    auto* remittance = Place<GovtDetails>();
+    QVERIFY(remittance);
+    remittance->SetComments("CALL BACK");
+    QWidget* comments = remittance->Surface().FindQWidget("txtComments");
+    QColor normal = comments->palette().color(QPalette::Base);
+    remittance->SetStatementOnly(1);
+    QVERIFY(!comments->isEnabled());
+    QVERIFY(!remittance->Surface().FindQWidget("grItems")->isEnabled());
+    QVERIFY(remittance->Surface().FindQWidget("txtPaymentAmount")->isEnabled());
+    QVERIFY(comments->palette().color(QPalette::Base) != normal);
+    remittance->setProperty("StatementOnly", 0);
+    QVERIFY(comments->isEnabled());
+    QCOMPARE(remittance->Comments(), QString("CALL BACK"));
+  }
+
+  void aGridAmountTypedAsCentsIsStoredAndReported() {
+    auto* remittance = Place<GovtDetails>();
+    QVERIFY(remittance);
+    QSignalSpy updated(remittance, &GovtDetails::GridRowUpdated);
+    remittance->SetFocusGrid();
+    Press(Qt::Key_Tab);  // to the amount column
+    Type("4550");
+    Press(Qt::Key_Return);
+    QCOMPARE(remittance->GridValues(1), QString("45.5"));
+    QCOMPARE(updated.count(), 1);
+    QCOMPARE(updated.at(0).at(0).toInt(), 1);
+  }
+
+  void setRowsOutOfRangeReportsTheHostError() {
+    auto* remittance = Place<GovtDetails>();
+    QVERIFY(remittance);
+    QSignalSpy errors(remittance, &GovtDetails::HostErrorRaised);
+    bool ok = true;
+    QVERIFY(QMetaObject::invokeMethod(remittance, "SetRows", Q_RETURN_ARG(bool, ok), Q_ARG(short, 27)));
+    QVERIFY(!ok);
+    QCOMPARE(errors.count(), 1);
+    QCOMPARE(static_cast<quint32>(errors.at(0).at(0).toInt()), 0x80040014u);
+    QCOMPARE(errors.at(0).at(2).toString(), QString("Rows must range from 1 to 26"));
+    QCOMPARE(remittance->GridNumberofRows(), short{12});
+  }
+
+  void propertiesRoundTripThroughSettings() {
+    QTemporaryDir dir;
+    QSettings settings(dir.filePath("host.ini"), QSettings::IniFormat);
+    {
+      StdPayment payment;
+      payment.SetBusinessMode(true);
+      payment.SetBackColorTitle(QColor(10, 20, 30));
+      payment.SaveProperties(&settings, "StdPayment1");
+    }
+    StdPayment loaded;
+    loaded.LoadProperties(&settings, "StdPayment1");
+    QVERIFY(loaded.BusinessMode());
+    QCOMPARE(loaded.BackColorTitle(), QColor(10, 20, 30));
+    QVERIFY(!settings.contains("StdPayment1/BackColor"));  // defaults are not written
+  }
+
+  void lateBoundHostsSeeEveryMember() {
+    GovtDetails remittance;
+    const QMetaObject* meta = remittance.metaObject();
+    for (const char* property : {"PeriodFrom", "StatementOnly", "GridNumberofRows", "BackColorTitle", "BusinessMode"}) {
+      QVERIFY2(meta->indexOfProperty(property) >= 0, property);
+    }
+    for (const char* method : {"Clear()", "SetRows(short)", "GridValues(short)", "SetFocusPeriodTo()"}) {
+      QVERIFY2(meta->indexOfMethod(method) >= 0, method);
+    }
+    remittance.setProperty("Amount", QVariant::fromValue(Currency::FromText("12.5")));
+    QCOMPARE(remittance.property("Amount").value<Currency>(), Currency::FromText("12.5"));
+  }
+
+  void theScreenRenders() {
+    auto* invoice = Place<PmtDetails>();
+    QVERIFY(invoice);
+    invoice->SetBusinessMode(true);
+    QImage shot = window_->grab().toImage();
+    QVERIFY(!shot.isNull());
+    QSet<QRgb> colours;
+    for (int y = 0; y < shot.height(); y += 3) {
+      for (int x = 0; x < shot.width(); x += 3) colours.insert(shot.pixel(x, y));
+    }
+    QVERIFY(colours.size() > 3);
+  }
+};
+
+}  // namespace zenta::qt
+
+QTEST_MAIN(zenta::qt::ControlsTest)
+#include "controls_test.moc"
