@@ -81,7 +81,7 @@ std::string DigitsOf(UInt128 value) {
 std::string LayOut(const Decimal& value, const Section& s) {
   std::string digits = DigitsOf(value.digits);
   auto decimals = static_cast<std::size_t>(value.scale);
-  if (digits.size() <= decimals) digits.insert(0, decimals - digits.size() + 1, '0');
+  if (digits.size() <= decimals) digits = std::string(decimals - digits.size() + 1, '0') + digits;
   std::string integer = digits.substr(0, digits.size() - decimals);
   std::string fraction = digits.substr(digits.size() - decimals);
   while (fraction.size() > static_cast<std::size_t>(s.required_decimals) && !fraction.empty() && fraction.back() == '0') {
@@ -90,10 +90,15 @@ std::string LayOut(const Decimal& value, const Section& s) {
   std::size_t first_nonzero = integer.find_first_not_of('0');
   integer = first_nonzero == std::string::npos ? "" : integer.substr(first_nonzero);
   if (integer.size() < static_cast<std::size_t>(s.min_integer_digits)) {
-    integer.insert(0, static_cast<std::size_t>(s.min_integer_digits) - integer.size(), '0');
+    integer = std::string(static_cast<std::size_t>(s.min_integer_digits) - integer.size(), '0') + integer;
   }
   if (s.grouping) {
-    for (int i = static_cast<int>(integer.size()) - 3; i > 0; i -= 3) integer.insert(static_cast<std::size_t>(i), ",");
+    std::string grouped;
+    for (std::size_t i = 0; i < integer.size(); ++i) {
+      if (i > 0 && (integer.size() - i) % 3 == 0) grouped += ',';
+      grouped += integer[i];
+    }
+    integer = grouped;
   }
   std::string out = s.prefix + integer;
   if (s.has_point && (!fraction.empty() || s.required_decimals > 0)) out += "." + fraction;
@@ -114,7 +119,7 @@ std::string Format(const Decimal* value, std::string_view pattern) {
     return LayOut(detail::Rescale(*value, zero.max_decimals).value_or(Decimal{}), zero);
   }
   std::string text = LayOut(rounded, positive);
-  if (value->negative && rounded.digits != 0) text.insert(0, "-");
+  if (value->negative && rounded.digits != 0) return "-" + text;
   return text;
 }
 
