@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/error_number.h"
+
 #include <cmath>
 #include <functional>
 
@@ -13,14 +15,7 @@ namespace {
 static_assert(Currency::FromUnits(12345).Units() == 12345);
 static_assert(Currency::FromUnits(1) < Currency::FromUnits(2));
 
-int ErrorNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const HostError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using test_support::ErrorNumberOf;
 
 TEST(Currency, AddingOneCentAMillionTimesIsExact) {
   Currency total;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/error_number.h"
+
 #include <functional>
 
 #include "zenta/core/host_error.h"
@@ -9,14 +11,7 @@
 namespace zenta {
 namespace {
 
-int ErrorNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const HostError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using test_support::ErrorNumberOf;
 
 struct Thing : Object {};
 struct Other : Object {};

@@ -7,12 +7,17 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "tests/qt/key_input.h"
+
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
+
+using testing::Press;
+using testing::Type;
 
 // The controls as real widgets, driven with real key events: they must give the values and
 // events the headless toolkit gives.
@@ -35,14 +40,6 @@ class ControlsTest : public QObject {
     window_->show();
     if (!QTest::qWaitForWindowActive(window_.get())) return nullptr;
     return control;
-  }
-  static void Type(const char* text) {
-    QTest::keyClicks(QApplication::focusWidget(), text);
-    QCoreApplication::processEvents();
-  }
-  static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QCoreApplication::processEvents();
   }
   static QString Shown(ControlWidget& control, const char* name) {
     return qobject_cast<QLineEdit*>(control.Surface().FindQWidget(name))->text();

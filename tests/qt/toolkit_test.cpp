@@ -6,12 +6,17 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "tests/qt/key_input.h"
+
 #include "zenta/qt/toolkit/qt_date_edit.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_number_edit.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
+
+using testing::Press;
+using testing::Type;
 
 // A window with a surface of two amount fields and a date, then a field of the host's own.
 class ToolkitTest : public QObject {
@@ -25,14 +30,6 @@ class ToolkitTest : public QObject {
   QtDateEdit* date_ = nullptr;
   QLineEdit* outside_ = nullptr;
 
-  void Type(const char* text) {
-    QTest::keyClicks(QApplication::focusWidget(), text);
-    QCoreApplication::processEvents();
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QCoreApplication::processEvents();
-  }
 
  private slots:
   void init() {

@@ -2,20 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/error_number.h"
+
 #include "zenta/core/host_error.h"
 #include "zenta/records/cls_invoice.h"
 
 namespace zenta {
 namespace {
 
-int ErrorNumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const HostError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using test_support::ErrorNumberOf;
 
 clsDistributions ThreeLines() {
   clsDistributions lines;

@@ -22,14 +22,14 @@ class ControlSurface {
  public:
   virtual ~ControlSurface() = default;
 
-  virtual NumberEdit& AddNumberEdit(const WidgetSpec& spec) = 0;
-  virtual DateEdit& AddDateEdit(const WidgetSpec& spec) = 0;
-  virtual TextBox& AddTextBox(const WidgetSpec& spec) = 0;
-  virtual CheckBox& AddCheckBox(const WidgetSpec& spec, const std::string& caption) = 0;
-  virtual Label& AddLabel(const WidgetSpec& spec, const std::string& caption) = 0;
-  virtual Grid& AddGrid(const WidgetSpec& spec, int column_count) = 0;
+  virtual NumberEdit& AddNumberEdit(const WidgetSpec& definition) = 0;
+  virtual DateEdit& AddDateEdit(const WidgetSpec& definition) = 0;
+  virtual TextBox& AddTextBox(const WidgetSpec& definition) = 0;
+  virtual CheckBox& AddCheckBox(const WidgetSpec& definition, const std::string& caption) = 0;
+  virtual Label& AddLabel(const WidgetSpec& definition, const std::string& caption) = 0;
+  virtual Grid& AddGrid(const WidgetSpec& definition, int column_count) = 0;
   // A number edit that lives inside `grid` as the editor of `column`; no tab stop of its own.
-  virtual NumberEdit& AddGridEditor(const WidgetSpec& spec, Grid& grid, int column) = 0;
+  virtual NumberEdit& AddGridEditor(const WidgetSpec& definition, Grid& grid, int column) = 0;
 
   // Every child, in creation order.
   virtual std::vector<Widget*> Children() const = 0;

@@ -11,8 +11,8 @@ namespace zenta::headless {
 // user or the program, sends the click notification.
 class CheckBoxWidget : public WidgetBase<platform::CheckBox> {
  public:
-  CheckBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec, std::string caption)
-      : WidgetBase(form, surface, spec), caption_(std::move(caption)) {}
+  CheckBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition, std::string caption)
+      : WidgetBase(form, surface, definition), caption_(std::move(caption)) {}
 
   int State() const override { return state_; }
   void SetState(int state) override;

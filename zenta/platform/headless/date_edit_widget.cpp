@@ -4,8 +4,8 @@
 
 namespace zenta::headless {
 
-DateEditWidget::DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec)
-    : WidgetBase(form, surface, spec) {}
+DateEditWidget::DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition)
+    : WidgetBase(form, surface, definition) {}
 
 std::optional<Date> DateEditWidget::Value() const {
   if (digits_.size() != 8) return std::nullopt;

@@ -11,7 +11,7 @@ namespace zenta::headless {
 // is skipped); the value is the date once the eight digits form one. F2 clears, F3 puts today.
 class DateEditWidget : public WidgetBase<platform::DateEdit> {
  public:
-  DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec);
+  DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition);
 
   std::optional<Date> Value() const override;
   void SetValue(std::optional<Date> value) override;

@@ -60,9 +60,9 @@ Surface& Form::AddSurface(const std::string& name, int width_twips, int height_t
 }
 
 TextBoxWidget& Form::AddHostField(const std::string& name) {
-  platform::WidgetSpec spec;
-  spec.name = name;
-  impl_->host_fields.push_back(std::make_unique<TextBoxWidget>(*this, nullptr, spec));
+  platform::WidgetSpec definition;
+  definition.name = name;
+  impl_->host_fields.push_back(std::make_unique<TextBoxWidget>(*this, nullptr, definition));
   return *impl_->host_fields.back();
 }
 

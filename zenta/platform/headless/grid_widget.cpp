@@ -6,8 +6,8 @@
 
 namespace zenta::headless {
 
-GridWidget::GridWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec, int column_count)
-    : WidgetBase(form, surface, spec), captions_(static_cast<std::size_t>(column_count)) {}
+GridWidget::GridWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition, int column_count)
+    : WidgetBase(form, surface, definition), captions_(static_cast<std::size_t>(column_count)) {}
 
 void GridWidget::Bind(std::shared_ptr<platform::Array2D> array) {
   array_ = std::move(array);

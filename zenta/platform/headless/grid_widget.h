@@ -17,7 +17,7 @@ class NumberEditWidget;
 // platform::Grid. Up and Down arrows change the current row.
 class GridWidget : public WidgetBase<platform::Grid> {
  public:
-  GridWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec, int column_count);
+  GridWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition, int column_count);
 
   void Bind(std::shared_ptr<platform::Array2D> array) override;
   std::shared_ptr<platform::Array2D> BoundArray() const override { return array_; }

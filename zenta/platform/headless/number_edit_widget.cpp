@@ -16,8 +16,8 @@ std::optional<Currency> ParseValue(const std::string& text) {
 }
 }  // namespace
 
-NumberEditWidget::NumberEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec)
-    : WidgetBase(form, surface, spec) {}
+NumberEditWidget::NumberEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition)
+    : WidgetBase(form, surface, definition) {}
 
 void NumberEditWidget::SetValue(std::optional<Currency> value) {
   value_ = value;

@@ -14,7 +14,7 @@ class GridWidget;
 // replaces; F2 clears. Away from the focus it shows the value through its display format.
 class NumberEditWidget : public WidgetBase<platform::NumberEdit> {
  public:
-  NumberEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec);
+  NumberEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition);
 
   std::optional<Currency> Value() const override { return value_; }
   void SetValue(std::optional<Currency> value) override;

@@ -23,22 +23,22 @@ W& Surface::Add(Args&&... args) {
   return ref;
 }
 
-platform::NumberEdit& Surface::AddNumberEdit(const platform::WidgetSpec& spec) { return Add<NumberEditWidget>(spec); }
-platform::DateEdit& Surface::AddDateEdit(const platform::WidgetSpec& spec) { return Add<DateEditWidget>(spec); }
-platform::TextBox& Surface::AddTextBox(const platform::WidgetSpec& spec) { return Add<TextBoxWidget>(spec); }
-platform::CheckBox& Surface::AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) {
-  return Add<CheckBoxWidget>(spec, caption);
+platform::NumberEdit& Surface::AddNumberEdit(const platform::WidgetSpec& definition) { return Add<NumberEditWidget>(definition); }
+platform::DateEdit& Surface::AddDateEdit(const platform::WidgetSpec& definition) { return Add<DateEditWidget>(definition); }
+platform::TextBox& Surface::AddTextBox(const platform::WidgetSpec& definition) { return Add<TextBoxWidget>(definition); }
+platform::CheckBox& Surface::AddCheckBox(const platform::WidgetSpec& definition, const std::string& caption) {
+  return Add<CheckBoxWidget>(definition, caption);
 }
-platform::Label& Surface::AddLabel(const platform::WidgetSpec& spec, const std::string& caption) {
-  platform::WidgetSpec label = spec;
+platform::Label& Surface::AddLabel(const platform::WidgetSpec& definition, const std::string& caption) {
+  platform::WidgetSpec label = definition;
   label.tab_stop = false;
   return Add<LabelWidget>(label, caption);
 }
-platform::Grid& Surface::AddGrid(const platform::WidgetSpec& spec, int column_count) {
-  return Add<GridWidget>(spec, column_count);
+platform::Grid& Surface::AddGrid(const platform::WidgetSpec& definition, int column_count) {
+  return Add<GridWidget>(definition, column_count);
 }
-platform::NumberEdit& Surface::AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) {
-  platform::WidgetSpec editor = spec;
+platform::NumberEdit& Surface::AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) {
+  platform::WidgetSpec editor = definition;
   editor.tab_stop = false;
   auto& edit = Add<NumberEditWidget>(editor);
   grid.SetColumnEditor(column, &edit);

@@ -19,13 +19,13 @@ class Surface : public platform::ControlSurface {
   Surface(Form& form, std::string name, int width_twips, int height_twips);
   ~Surface() override;
 
-  platform::NumberEdit& AddNumberEdit(const platform::WidgetSpec& spec) override;
-  platform::DateEdit& AddDateEdit(const platform::WidgetSpec& spec) override;
-  platform::TextBox& AddTextBox(const platform::WidgetSpec& spec) override;
-  platform::CheckBox& AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) override;
-  platform::Label& AddLabel(const platform::WidgetSpec& spec, const std::string& caption) override;
-  platform::Grid& AddGrid(const platform::WidgetSpec& spec, int column_count) override;
-  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) override;
+  platform::NumberEdit& AddNumberEdit(const platform::WidgetSpec& definition) override;
+  platform::DateEdit& AddDateEdit(const platform::WidgetSpec& definition) override;
+  platform::TextBox& AddTextBox(const platform::WidgetSpec& definition) override;
+  platform::CheckBox& AddCheckBox(const platform::WidgetSpec& definition, const std::string& caption) override;
+  platform::Label& AddLabel(const platform::WidgetSpec& definition, const std::string& caption) override;
+  platform::Grid& AddGrid(const platform::WidgetSpec& definition, int column_count) override;
+  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) override;
 
   std::vector<platform::Widget*> Children() const override;
   platform::Widget* ActiveChild() const override;

@@ -4,8 +4,8 @@
 
 namespace zenta::headless {
 
-TextBoxWidget::TextBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec)
-    : WidgetBase(form, surface, spec) {}
+TextBoxWidget::TextBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition)
+    : WidgetBase(form, surface, definition) {}
 
 void TextBoxWidget::HandleCharacter(char32_t character) {
   platform::KeyPress press{character};

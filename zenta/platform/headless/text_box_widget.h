@@ -12,7 +12,7 @@ namespace zenta::headless {
 // appended; Backspace removes the last character.
 class TextBoxWidget : public WidgetBase<platform::TextBox> {
  public:
-  TextBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& spec);
+  TextBoxWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition);
 
   std::string Text() const override { return text_; }
   void SetText(const std::string& text) override { text_ = text; }

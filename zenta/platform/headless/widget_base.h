@@ -13,8 +13,8 @@ namespace zenta::headless {
 template <class Interface>
 class WidgetBase : public Interface, public InputNode {
  public:
-  WidgetBase(Form& form, Surface* surface, const platform::WidgetSpec& spec)
-      : InputNode(form, surface, spec.tab_stop), name_(spec.name), tooltip_(spec.tooltip), rect_(spec.rect) {}
+  WidgetBase(Form& form, Surface* surface, const platform::WidgetSpec& definition)
+      : InputNode(form, surface, definition.tab_stop), name_(definition.name), tooltip_(definition.tooltip), rect_(definition.rect) {}
 
   platform::Widget& AsWidget() override { return *this; }
   const std::string& Name() const override { return name_; }

@@ -11,8 +11,8 @@
 
 namespace zenta::qt {
 
-QtArrayGrid::QtArrayGrid(QWidget* parent, const platform::WidgetSpec& spec, int column_count)
-    : QTableView(parent), QtWidgetBase(*this, spec), model_(new ArrayTableModel(this, column_count)) {
+QtArrayGrid::QtArrayGrid(QWidget* parent, const platform::WidgetSpec& definition, int column_count)
+    : QTableView(parent), QtWidgetBase(*this, definition), model_(new ArrayTableModel(this, column_count)) {
   model_->SetOverlay([this](int row, int column) -> std::optional<std::string> {
     if (pending_row_ != row) return std::nullopt;
     if (editing_ && column == CurrentColumn()) {

@@ -19,7 +19,7 @@ class QtNumberEdit;
 // own navigation, as on every toolkit.
 class QtArrayGrid : public QTableView, public QtWidgetBase<platform::Grid> {
  public:
-  QtArrayGrid(QWidget* parent, const platform::WidgetSpec& spec, int column_count);
+  QtArrayGrid(QWidget* parent, const platform::WidgetSpec& definition, int column_count);
   ~QtArrayGrid() override;
 
   void Bind(std::shared_ptr<platform::Array2D> array) override;

@@ -11,7 +11,7 @@ namespace zenta::qt {
 // its state alike.
 class QtCheckBox : public QCheckBox, public QtWidgetBase<platform::CheckBox> {
  public:
-  QtCheckBox(QWidget* parent, const platform::WidgetSpec& spec, const std::string& caption);
+  QtCheckBox(QWidget* parent, const platform::WidgetSpec& definition, const std::string& caption);
 
   int State() const override;
   void SetState(int state) override;

@@ -12,15 +12,15 @@
 
 namespace zenta::qt {
 
-QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& spec)
-    : QWidget(parent), QtWidgetBase(*this, spec), editor_(new QLineEdit(this)), button_(new QToolButton(this)),
+QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
+    : QWidget(parent), QtWidgetBase(*this, definition), editor_(new QLineEdit(this)), button_(new QToolButton(this)),
       popup_(new QFrame(this, Qt::Popup)), calendar_(new QCalendarWidget(popup_)) {
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(editor_);
   layout->addWidget(button_);
-  editor_->setObjectName(ToQString(spec.name) + "_text");
+  editor_->setObjectName(ToQString(definition.name) + "_text");
   editor_->setInputMask("9999/99/99;_");
   editor_->installEventFilter(this);
   setFocusProxy(editor_);

@@ -18,7 +18,7 @@ namespace zenta::qt {
 // control's title colour. F2 clears the date; F3 puts today's.
 class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
  public:
-  QtDateEdit(QWidget* parent, const platform::WidgetSpec& spec);
+  QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition);
 
   std::optional<Date> Value() const override;
   void SetValue(std::optional<Date> value) override;

@@ -9,8 +9,8 @@ namespace zenta::qt {
 
 class QtLabel : public QLabel, public QtWidgetBase<platform::Label> {
  public:
-  QtLabel(QWidget* parent, const platform::WidgetSpec& spec, const std::string& caption)
-      : QLabel(ToQString(caption), parent), QtWidgetBase(*this, spec) {}
+  QtLabel(QWidget* parent, const platform::WidgetSpec& definition, const std::string& caption)
+      : QLabel(ToQString(caption), parent), QtWidgetBase(*this, definition) {}
 
   std::string Caption() const override { return FromQString(text()); }
   void SetCaption(const std::string& caption) override { setText(ToQString(caption)); }

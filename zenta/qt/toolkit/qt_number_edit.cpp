@@ -33,8 +33,8 @@ class EditFormatValidator : public QValidator {
 };
 }  // namespace
 
-QtNumberEdit::QtNumberEdit(QWidget* parent, const platform::WidgetSpec& spec)
-    : QLineEdit(parent), QtWidgetBase(*this, spec) {
+QtNumberEdit::QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definition)
+    : QLineEdit(parent), QtWidgetBase(*this, definition) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setValidator(new EditFormatValidator(*this));
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { TypedTextChanged(text); });

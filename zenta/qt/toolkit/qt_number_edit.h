@@ -18,7 +18,7 @@ class QtArrayGrid;
 // when a message box or popup takes the focus for a moment.
 class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit> {
  public:
-  QtNumberEdit(QWidget* parent, const platform::WidgetSpec& spec);
+  QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definition);
 
   std::optional<Currency> Value() const override { return value_; }
   void SetValue(std::optional<Currency> value) override;

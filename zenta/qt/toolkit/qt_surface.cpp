@@ -42,54 +42,54 @@ QRect QtSurface::PixelRect(const platform::TwipsRect& rect) const {
 }
 
 template <class W>
-W& QtSurface::Register(W* widget, const platform::WidgetSpec& spec, QWidget& focus_target) {
-  widget->setGeometry(PixelRect(spec.rect));
-  if (!spec.tab_stop && focus_target.focusPolicy() != Qt::NoFocus) focus_target.setFocusPolicy(Qt::ClickFocus);
+W& QtSurface::Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target) {
+  widget->setGeometry(PixelRect(definition.rect));
+  if (!definition.tab_stop && focus_target.focusPolicy() != Qt::NoFocus) focus_target.setFocusPolicy(Qt::ClickFocus);
   focus_target.installEventFilter(this);
   children_.push_back(widget);
   by_qwidget_[widget] = widget;
-  qwidget_by_name_[spec.name] = widget;
+  qwidget_by_name_[definition.name] = widget;
   return *widget;
 }
 
-platform::NumberEdit& QtSurface::AddNumberEdit(const platform::WidgetSpec& spec) {
-  auto* edit = new QtNumberEdit(this, spec);
-  return Register(edit, spec, *edit);
+platform::NumberEdit& QtSurface::AddNumberEdit(const platform::WidgetSpec& definition) {
+  auto* edit = new QtNumberEdit(this, definition);
+  return Register(edit, definition, *edit);
 }
 
-platform::DateEdit& QtSurface::AddDateEdit(const platform::WidgetSpec& spec) {
-  auto* date = new QtDateEdit(this, spec);
-  return Register(date, spec, date->Editor());
+platform::DateEdit& QtSurface::AddDateEdit(const platform::WidgetSpec& definition) {
+  auto* date = new QtDateEdit(this, definition);
+  return Register(date, definition, date->Editor());
 }
 
-platform::TextBox& QtSurface::AddTextBox(const platform::WidgetSpec& spec) {
-  auto* box = new QtTextBox(this, spec);
-  return Register(box, spec, *box);
+platform::TextBox& QtSurface::AddTextBox(const platform::WidgetSpec& definition) {
+  auto* box = new QtTextBox(this, definition);
+  return Register(box, definition, *box);
 }
 
-platform::CheckBox& QtSurface::AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) {
-  auto* box = new QtCheckBox(this, spec, caption);
-  return Register(box, spec, *box);
+platform::CheckBox& QtSurface::AddCheckBox(const platform::WidgetSpec& definition, const std::string& caption) {
+  auto* box = new QtCheckBox(this, definition, caption);
+  return Register(box, definition, *box);
 }
 
-platform::Label& QtSurface::AddLabel(const platform::WidgetSpec& spec, const std::string& caption) {
-  auto* label = new QtLabel(this, spec, caption);
+platform::Label& QtSurface::AddLabel(const platform::WidgetSpec& definition, const std::string& caption) {
+  auto* label = new QtLabel(this, definition, caption);
   label->setFocusPolicy(Qt::NoFocus);
-  return Register(label, spec, *label);
+  return Register(label, definition, *label);
 }
 
-platform::Grid& QtSurface::AddGrid(const platform::WidgetSpec& spec, int column_count) {
-  auto* grid = new QtArrayGrid(this, spec, column_count);
-  return Register(grid, spec, *grid);
+platform::Grid& QtSurface::AddGrid(const platform::WidgetSpec& definition, int column_count) {
+  auto* grid = new QtArrayGrid(this, definition, column_count);
+  return Register(grid, definition, *grid);
 }
 
-platform::NumberEdit& QtSurface::AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) {
-  auto* edit = new QtNumberEdit(this, spec);
+platform::NumberEdit& QtSurface::AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) {
+  auto* edit = new QtNumberEdit(this, definition);
   edit->setFocusPolicy(Qt::ClickFocus);
   edit->installEventFilter(this);
   children_.push_back(edit);
   by_qwidget_[edit] = edit;
-  qwidget_by_name_[spec.name] = edit;
+  qwidget_by_name_[definition.name] = edit;
   grid.SetColumnEditor(column, edit);
   return *edit;
 }

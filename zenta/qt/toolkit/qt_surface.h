@@ -15,13 +15,13 @@ class QtSurface : public QWidget, public platform::ControlSurface {
  public:
   explicit QtSurface(QWidget* parent = nullptr);
 
-  platform::NumberEdit& AddNumberEdit(const platform::WidgetSpec& spec) override;
-  platform::DateEdit& AddDateEdit(const platform::WidgetSpec& spec) override;
-  platform::TextBox& AddTextBox(const platform::WidgetSpec& spec) override;
-  platform::CheckBox& AddCheckBox(const platform::WidgetSpec& spec, const std::string& caption) override;
-  platform::Label& AddLabel(const platform::WidgetSpec& spec, const std::string& caption) override;
-  platform::Grid& AddGrid(const platform::WidgetSpec& spec, int column_count) override;
-  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& spec, platform::Grid& grid, int column) override;
+  platform::NumberEdit& AddNumberEdit(const platform::WidgetSpec& definition) override;
+  platform::DateEdit& AddDateEdit(const platform::WidgetSpec& definition) override;
+  platform::TextBox& AddTextBox(const platform::WidgetSpec& definition) override;
+  platform::CheckBox& AddCheckBox(const platform::WidgetSpec& definition, const std::string& caption) override;
+  platform::Label& AddLabel(const platform::WidgetSpec& definition, const std::string& caption) override;
+  platform::Grid& AddGrid(const platform::WidgetSpec& definition, int column_count) override;
+  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) override;
 
   std::vector<platform::Widget*> Children() const override { return children_; }
   platform::Widget* ActiveChild() const override;
@@ -54,7 +54,7 @@ class QtSurface : public QWidget, public platform::ControlSurface {
 
  private:
   template <class W>
-  W& Register(W* widget, const platform::WidgetSpec& spec, QWidget& focus_target);
+  W& Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target);
   QRect PixelRect(const platform::TwipsRect& rect) const;
 
   std::vector<platform::Widget*> children_;

@@ -4,7 +4,7 @@
 
 namespace zenta::qt {
 
-QtTextBox::QtTextBox(QWidget* parent, const platform::WidgetSpec& spec) : QLineEdit(parent), QtWidgetBase(*this, spec) {}
+QtTextBox::QtTextBox(QWidget* parent, const platform::WidgetSpec& definition) : QLineEdit(parent), QtWidgetBase(*this, definition) {}
 
 void QtTextBox::SetBackColor(OleColor color) {
   back_color_ = color;

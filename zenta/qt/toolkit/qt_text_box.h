@@ -12,7 +12,7 @@ namespace zenta::qt {
 // replace or discard each one. Pasted text is taken as it is.
 class QtTextBox : public QLineEdit, public QtWidgetBase<platform::TextBox> {
  public:
-  QtTextBox(QWidget* parent, const platform::WidgetSpec& spec);
+  QtTextBox(QWidget* parent, const platform::WidgetSpec& definition);
 
   std::string Text() const override { return FromQString(text()); }
   void SetText(const std::string& text) override { setText(ToQString(text)); }

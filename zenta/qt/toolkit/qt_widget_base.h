@@ -13,9 +13,9 @@ namespace zenta::qt {
 template <class Interface>
 class QtWidgetBase : public Interface {
  public:
-  explicit QtWidgetBase(QWidget& widget, const platform::WidgetSpec& spec) : widget_(widget), name_(spec.name) {
-    widget_.setObjectName(ToQString(spec.name));
-    if (!spec.tooltip.empty()) widget_.setToolTip(ToQString(spec.tooltip));
+  explicit QtWidgetBase(QWidget& widget, const platform::WidgetSpec& definition) : widget_(widget), name_(definition.name) {
+    widget_.setObjectName(ToQString(definition.name));
+    if (!definition.tooltip.empty()) widget_.setToolTip(ToQString(definition.tooltip));
   }
 
   const std::string& Name() const override { return name_; }
