@@ -34,6 +34,12 @@ double QtSurface::PixelsPerTwip() const {
   return logicalDpiX() / kTwipsPerInch * std::clamp(font_scale, 1.0, 2.0);
 }
 
+QtSurface::~QtSurface() {
+  // A focused field finishes its focus-lost handling while the control is still whole.
+  QWidget* focused = QApplication::focusWidget();
+  if (focused && isAncestorOf(focused)) focused->clearFocus();
+}
+
 int QtSurface::ToPixels(int twips) const { return qRound(twips * PixelsPerTwip()); }
 int QtSurface::ToTwips(int pixels) const { return qRound(pixels / PixelsPerTwip()); }
 

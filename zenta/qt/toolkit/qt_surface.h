@@ -14,6 +14,7 @@ namespace zenta::qt {
 class QtSurface : public QWidget, public platform::ControlSurface {
  public:
   explicit QtSurface(QWidget* parent = nullptr);
+  ~QtSurface() override;
 
   platform::NumberEdit& AddNumberEdit(const platform::WidgetSpec& definition) override;
   platform::DateEdit& AddDateEdit(const platform::WidgetSpec& definition) override;
@@ -28,7 +29,8 @@ class QtSurface : public QWidget, public platform::ControlSurface {
 
   OleColor BackColor() const override { return back_color_; }
   void SetBackColor(OleColor color) override;
-  bool Enabled() const override { return isEnabled(); }
+  // The control's own state: a host disabling the window around it does not change it.
+  bool Enabled() const override { return !testAttribute(Qt::WA_ForceDisabled); }
   void SetEnabled(bool enabled) override { setEnabled(enabled); }
   int Width() const override { return ToTwips(width()); }
   int Height() const override { return ToTwips(height()); }
