@@ -6,8 +6,8 @@
 namespace zenta {
 
 PmtDetails::Widgets PmtDetails::Build(platform::ControlSurface& surface) {
-  surface.AddLabel({"lblInvoiceDate", {60, 60, 800, 240}}, "Invoice Date");
-  surface.AddLabel({"lblDateHint", {860, 60, 895, 240}}, "YYYY/MM/DD");
+  surface.AddLabel({"lblInvoiceDate", {60, 60, 900, 240}}, "Invoice Date");
+  surface.AddLabel({"lblDateHint", {960, 60, 855, 240}}, "YYYY/MM/DD");
   auto& date = surface.AddDateEdit({"dtInvoiceDate", {60, 300, 1695, 300}, "Enter the date of the invoice"});
   surface.AddLabel({"lblInvoiceNo", {60, 660, 1695, 240}}, "Invoice No / Descript.");
   auto& number = surface.AddTextBox(
