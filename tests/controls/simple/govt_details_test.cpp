@@ -38,6 +38,9 @@ TEST_F(GovtDetailsTest, LoadsTwelveLetteredRows) {
 
 TEST_F(GovtDetailsTest, SetRowsTakesOneToTwentySixAndRefusesTheRest) {
   control.SetRows(26);
+  EXPECT_EQ(control.GridNumberofRows(), 26);
+  EXPECT_EQ(grid.DisplayedText(9, 0), "I-09");
+  EXPECT_EQ(grid.DisplayedText(10, 0), "J-10");
   EXPECT_EQ(grid.DisplayedText(26, 0), "Z-26");
   control.SetGridValues(3, "7.00");
   for (std::int16_t bad : {std::int16_t{0}, std::int16_t{27}, std::int16_t{-1}}) {
@@ -66,6 +69,22 @@ TEST_F(GovtDetailsTest, AnAmountTypedAsCentsIsStoredDividedAndReported) {
   EXPECT_EQ(screen.FocusedName(), "grItems");
 }
 
+struct RowListener : GovtDetails::Events {
+  std::vector<std::int16_t> rows;
+  void GridRowUpdated(std::int16_t Row) override { rows.push_back(Row); }
+};
+
+TEST_F(GovtDetailsTest, TypedListenersHearTheUpdatedRow) {
+  RowListener listener;
+  control.SetEventListener(&listener);
+  StartOnRow(7);
+  user.Type("12.5");
+  user.PressTab();
+  EXPECT_EQ(control.GridValues(7), "12.5");
+  EXPECT_THAT(listener.rows, ElementsAre(7));
+  EXPECT_THAT(host.EventNames(), ElementsAre("GridRowUpdated"));
+}
+
 TEST_F(GovtDetailsTest, GridCellsTakeEighteenCharactersExactly) {
   StartOnRow(2);
   grid.SetCurrentColumn(0);
@@ -81,6 +100,17 @@ TEST_F(GovtDetailsTest, GridCellsTakeEighteenCharactersExactly) {
   grid.SetCurrentRow(5);
   grid.SetCurrentColumn(1);
   EXPECT_EQ(utf8::Length(grid.CellText(1)), 22u);
+}
+
+TEST_F(GovtDetailsTest, HostValuesGoToTheirRowOnlyAndKeepTheCurrentRow) {
+  StartOnRow(2);
+  control.SetGridValues(2, "10.00");
+  control.SetGridValues(5, "abc 1,5");  // stored as given
+  control.SetGridValues(30, "99");      // no such row: nothing else is touched
+  EXPECT_EQ(control.GridValues(5), "abc 1,5");
+  EXPECT_EQ(control.GridValues(2), "10.00");
+  EXPECT_EQ(control.GridValues(30), "");
+  EXPECT_EQ(grid.CurrentRow(), 2);
 }
 
 TEST_F(GovtDetailsTest, EnterInTheLastRowMovesToCommentsOrElseToTheAmount) {

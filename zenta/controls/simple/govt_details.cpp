@@ -45,11 +45,7 @@ GovtDetails::GovtDetails(platform::ControlSurface& surface, platform::HostServic
     : SmallControl(surface, host, colors::kTitleYellow, kMinWidth, kMinHeight),
       w_(Build(surface)),
       items_(w_.items, w_.grid_entry,
-             {.row_updated =
-                  [this](std::int16_t row) {
-                    Raise(kGridRowUpdated, "GridRowUpdated", {Variant(row)});
-                    if (listener_) listener_->GridRowUpdated(row);
-                  },
+             {.row_updated = EventRaiser(kGridRowUpdated, "GridRowUpdated", listener_, &Events::GridRowUpdated),
               .leave_last_row =
                   [this] {
                     if (w_.comments.Enabled()) {

@@ -68,7 +68,8 @@ void GovtItemsTable::Load(std::int16_t rows) {
 void GovtItemsTable::WithRowCurrent(int row, const std::function<void()>& action) {
   std::optional<int> remembered = grid_.CurrentRow();
   grid_.SetCurrentRow(row);
-  action();
+  // A row the grid refuses (outside the table) must not read or overwrite the current one.
+  if (grid_.CurrentRow() == row) action();
   if (remembered) grid_.SetCurrentRow(*remembered);
 }
 

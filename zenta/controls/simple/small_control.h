@@ -55,13 +55,14 @@ class SmallControl {
   void EnforceMinimumSize();
   // Raises the event to the host by number and returns it with the host's in/out values.
   platform::RaisedEvent Raise(int number, const char* name, std::vector<Variant> args = {});
-  // A notification that raises an argument-less event by number and to the typed listener.
-  template <class Listener>
-  std::function<void()> EventRaiser(int number, const char* name, Listener* const& listener,
-                                    void (Listener::*typed)()) {
-    return [this, number, name, &listener, typed] {
-      Raise(number, name);
-      if (listener) (listener->*typed)();
+  // A notification that raises an event by number to the host, then to the typed listener
+  // (read when the event fires, so it may be set later). Arguments go to both.
+  template <class Listener, class... Args>
+  std::function<void(Args...)> EventRaiser(int number, const char* name, Listener* const& listener,
+                                           void (Listener::*typed)(Args...)) {
+    return [this, number, name, &listener, typed](Args... args) {
+      Raise(number, name, {Variant(args)...});
+      if (listener) (listener->*typed)(args...);
     };
   }
 
