@@ -136,6 +136,19 @@ class ControlsTest : public QObject {
     QCOMPARE(updated.at(0).at(0).toInt(), 1);
   }
 
+  void punctuationTypedInTheGridIsNeverAnArrowKey() {
+    auto* remittance = Place<GovtDetails>();
+    QVERIFY(remittance);
+    remittance->SetFocusGrid();
+    Type("(");  // shares its code with the Down arrow
+    remittance->SetGridValues(2, "7");
+    Press(Qt::Key_Tab);
+    Type("5.");
+    Press(Qt::Key_Return);
+    QCOMPARE(remittance->GridValues(1), QString("5."));
+    QCOMPARE(remittance->GridValues(2), QString("7"));
+  }
+
   void setRowsOutOfRangeReportsTheHostError() {
     auto* remittance = Place<GovtDetails>();
     QVERIFY(remittance);

@@ -1,6 +1,8 @@
 #include "zenta/platform/array_2d.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 
 #include "zenta/core/host_error.h"
 
@@ -18,6 +20,16 @@ std::int64_t Count(int lower, int upper) {
   std::int64_t count = std::int64_t{upper} - lower + 1;
   if (count < 0) throw HostError::SubscriptOutOfRange(kSource);
   return count;
+}
+
+void InsertEmptyRows(std::vector<std::vector<Variant>>& rows, std::int64_t at, int count, int row_lower, int columns) {
+  if (count < 0) throw HostError::InvalidProcedureCall(kSource);
+  // The upper bound must stay an int, and the table within its size limit.
+  const std::int64_t total = static_cast<std::int64_t>(rows.size()) + count;
+  if (row_lower + total - 1 > std::numeric_limits<int>::max() || total * std::max(columns, 1) > kMaxCells) {
+    throw OutOfMemory();
+  }
+  rows.insert(rows.begin() + at, static_cast<std::size_t>(count), std::vector<Variant>(static_cast<std::size_t>(columns)));
 }
 }  // namespace
 
@@ -62,17 +74,15 @@ void Array2D::Set(int row, int column, Variant value) {
   rows_[Index(row, column)][static_cast<std::size_t>(column - column_lower_)] = std::move(value);
 }
 
-void Array2D::AppendRows(int count) { InsertRows(row_lower_ + RowCount(), count); }
+void Array2D::AppendRows(int count) { InsertEmptyRows(rows_, RowCount(), count, row_lower_, column_count_); }
 
 void Array2D::InsertRows(int row, int count) {
-  if (count < 0) throw HostError::InvalidProcedureCall(kSource);
   const std::int64_t at = std::int64_t{row} - row_lower_;
-  if (at < 0 || at > RowCount()) throw HostError::SubscriptOutOfRange(kSource);
-  // The upper bound must stay an int, and the table within its size limit.
-  const std::int64_t rows = std::int64_t{RowCount()} + count;
-  if (row_lower_ + rows - 1 > INT32_MAX || rows * std::max(column_count_, 1) > kMaxCells) throw OutOfMemory();
-  rows_.insert(rows_.begin() + at, static_cast<std::size_t>(count), std::vector<Variant>(static_cast<std::size_t>(column_count_)));
+  if (count >= 0 && (at < 0 || at > RowCount())) throw HostError::SubscriptOutOfRange(kSource);
+  InsertEmptyRows(rows_, at, count, row_lower_, column_count_);
 }
+
+
 
 void Array2D::DeleteRows(int row, int count) {
   if (count < 0) throw HostError::InvalidProcedureCall(kSource);

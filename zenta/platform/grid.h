@@ -23,8 +23,8 @@ namespace zenta::platform {
 // editor's text into the cell and commits the row, takes the focus back (the editor's
 // focus-lost notification runs with the grid as the active child), and then delivers the same
 // key as a key-down to the grid. A key-down the handler leaves intact is the grid's own
-// navigation: Enter and Tab move to the next cell, and from the last column to the first
-// column of the next row; in the last row they stay.
+// navigation (NextGridCell): Enter and Tab move to the next cell, and from the last column to
+// the first column of the next row; from the last cell Enter stays and Tab leaves the grid.
 //
 // Later grids (unbound rows, update checks with Cancel, posted messages, button cells,
 // footers, styles) extend this interface.

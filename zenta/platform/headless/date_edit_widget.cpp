@@ -31,7 +31,7 @@ std::string DateEditWidget::Text() const {
 
 void DateEditWidget::HandleKeyDown(platform::KeyDown& key) {
   if (key.key_code == platform::keys::kF2) {
-    digits_.clear();
+    SetValue(std::nullopt);
     key.key_code = 0;
   } else if (key.key_code == platform::keys::kF3) {
     SetValue(form_.Today());
@@ -40,14 +40,23 @@ void DateEditWidget::HandleKeyDown(platform::KeyDown& key) {
 }
 
 void DateEditWidget::HandleCharacter(char32_t character) {
+  const bool digit = character >= U'0' && character <= U'9';
+  if (all_selected_ && (digit || character == platform::keys::kBackspace)) {
+    digits_.clear();
+    all_selected_ = false;
+    if (!digit) return;
+  }
   if (character == platform::keys::kBackspace) {
     if (!digits_.empty()) digits_.pop_back();
-  } else if (character >= U'0' && character <= U'9' && digits_.size() < 8) {
+  } else if (digit && digits_.size() < 8) {
     digits_ += static_cast<char>(character);
   }
 }
 
+void DateEditWidget::FocusGained() { all_selected_ = true; }
+
 void DateEditWidget::FocusLost() {
+  all_selected_ = false;
   if (on_focus_lost_) on_focus_lost_();
 }
 

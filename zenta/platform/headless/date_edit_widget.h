@@ -8,7 +8,8 @@
 namespace zenta::headless {
 
 // A date edit in memory that can hold no date. Digits fill the mask "____/__/__" ("/" typed
-// is skipped); the value is the date once the eight digits form one. F2 clears, F3 puts today.
+// is skipped); the value is the date once the eight digits form one. Gaining the focus selects
+// all, so the first digit typed starts a new date. F2 clears, F3 puts the form's today.
 class DateEditWidget : public WidgetBase<platform::DateEdit> {
  public:
   DateEditWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition);
@@ -22,10 +23,12 @@ class DateEditWidget : public WidgetBase<platform::DateEdit> {
 
   void HandleKeyDown(platform::KeyDown& key) override;
   void HandleCharacter(char32_t character) override;
+  void FocusGained() override;
   void FocusLost() override;
 
  private:
   std::string digits_;
+  bool all_selected_ = false;
   OleColor title_color_ = 0;
   platform::Callback on_focus_lost_;
 };

@@ -7,9 +7,10 @@
 #include <stdexcept>
 #include <vector>
 
+#include "zenta/platform/headless/scoped_flag.h"
 #include "zenta/platform/headless/surface.h"
-#include "zenta/platform/key_script.h"
 #include "zenta/platform/headless/text_box_widget.h"
+#include "zenta/platform/key_script.h"
 
 namespace zenta::headless {
 
@@ -34,17 +35,17 @@ struct Form::Impl {
   InputNode* focused = nullptr;
   InputNode* gained = nullptr;  // the node whose focus-gained ran and whose focus-lost is owed
   std::deque<platform::KeyDown> queue;
+  bool draining = false;
   std::optional<Date> today;
 
-  std::vector<InputNode*> TabOrder() const {
-    std::vector<InputNode*> order;
+  // Every widget of the window in creation order: each surface's children, then the host's fields.
+  std::vector<InputNode*> AllNodes() const {
+    std::vector<InputNode*> nodes;
     for (const auto& surface : surfaces) {
-      for (const auto& node : surface->Nodes()) {
-        if (node->tab_stop()) order.push_back(node.get());
-      }
+      for (const auto& node : surface->Nodes()) nodes.push_back(node.get());
     }
-    for (const auto& field : host_fields) order.push_back(field.get());
-    return order;
+    for (const auto& field : host_fields) nodes.push_back(field.get());
+    return nodes;
   }
 };
 
@@ -104,6 +105,9 @@ void Form::QueueKeys(const std::string& keys) {
 }
 
 void Form::ProcessQueuedKeys() {
+  // A handler that runs queued keys itself leaves the rest to the loop already running.
+  if (impl_->draining) return;
+  ScopedFlag inside(impl_->draining);
   int delivered = 0;
   while (!impl_->queue.empty()) {
     if (++delivered > kQueueLimit) {
@@ -123,14 +127,7 @@ bool Form::DeliverKeyDown(platform::KeyDown key) {
   if (impl_->focused) impl_->focused->HandleKeyDown(key);
   if (key.key_code == 0) return false;
   if (key.key_code == platform::keys::kTab) {
-    auto order = impl_->TabOrder();
-    std::erase_if(order, [this](InputNode* n) { return n != impl_->focused && !CanFocus(&n->AsWidget()); });
-    if (order.empty()) return false;
-    auto at = std::find(order.begin(), order.end(), impl_->focused);
-    std::ptrdiff_t index = at == order.end() ? -1 : at - order.begin();
-    auto count = static_cast<std::ptrdiff_t>(order.size());
-    std::ptrdiff_t next = (key.shift & platform::kShift) ? (index <= 0 ? count - 1 : index - 1) : (index + 1) % count;
-    SetFocus(&order[static_cast<std::size_t>(next)]->AsWidget());
+    MoveFocusInTabOrder((key.shift & platform::kShift) != 0);
     return false;
   }
   if (key.key_code == platform::keys::kEnter && impl_->focused) impl_->focused->HandleCharacter(U'\r');
@@ -139,6 +136,23 @@ bool Form::DeliverKeyDown(platform::KeyDown key) {
 
 void Form::DeliverCharacter(char32_t character) {
   if (impl_->focused) impl_->focused->HandleCharacter(character);
+}
+
+void Form::MoveFocusInTabOrder(bool backward) {
+  // Searched from the focused widget's place in creation order, so that Tab from a widget
+  // without a tab stop (a clicked one, a grid's cell editor) goes on from where it sits.
+  const std::vector<InputNode*> nodes = impl_->AllNodes();
+  const auto count = static_cast<std::ptrdiff_t>(nodes.size());
+  auto found = std::find(nodes.begin(), nodes.end(), impl_->focused);
+  std::ptrdiff_t at = found != nodes.end() ? found - nodes.begin() : backward ? count : -1;
+  for (std::ptrdiff_t step = 1; step <= count; ++step) {
+    std::ptrdiff_t index = (((backward ? at - step : at + step) % count) + count) % count;
+    InputNode* node = nodes[static_cast<std::size_t>(index)];
+    if (node->tab_stop() && CanFocus(&node->AsWidget())) {
+      SetFocus(&node->AsWidget());
+      return;
+    }
+  }
 }
 
 Date Form::Today() const { return impl_->today.value_or(SystemToday()); }

@@ -40,14 +40,15 @@ class Form {
   bool CanFocus(const platform::Widget* widget) const;
 
   // Keystrokes queued by InjectKeys ("{TAB}", "+{TAB}", "{ENTER}") and run after the handler
-  // that queued them returns; User runs them after each action.
+  // that queued them returns; User runs them around each action. Keys that keep queueing more
+  // are stopped after 1000 with std::logic_error rather than looping forever.
   void QueueKeys(const std::string& keys);
   void ProcessQueuedKeys();
 
   // Key delivery with full semantics: surface preview, then the focused widget, then the
-  // form's own handling (Tab and Shift+Tab move the focus). A key-down discarded on the way
-  // produces no character.
-  // Returns false when the key was discarded or consumed on the way.
+  // form's own handling (Tab and Shift+Tab move the focus; a surviving Enter reaches the
+  // focused widget as the character 13). Returns false when the key was discarded or consumed
+  // on the way, and then no character should follow.
   bool DeliverKeyDown(platform::KeyDown key);
   void DeliverCharacter(char32_t character);
 
@@ -57,6 +58,8 @@ class Form {
   void SetToday(Date today);
 
  private:
+  void MoveFocusInTabOrder(bool backward);
+
   struct Impl;
   std::unique_ptr<Impl> impl_;
 };

@@ -1,5 +1,7 @@
 #include "zenta/platform/headless/grid_widget.h"
 
+#include <algorithm>
+
 #include "zenta/core/utf8.h"
 #include "zenta/platform/grid_navigation.h"
 #include "zenta/platform/headless/number_edit_widget.h"
@@ -7,7 +9,7 @@
 namespace zenta::headless {
 
 GridWidget::GridWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition, int column_count)
-    : WidgetBase(form, surface, definition), captions_(static_cast<std::size_t>(column_count)) {}
+    : WidgetBase(form, surface, definition), captions_(static_cast<std::size_t>(std::max(column_count, 0))) {}
 
 void GridWidget::Bind(std::shared_ptr<platform::Array2D> array) {
   array_ = std::move(array);
@@ -16,12 +18,15 @@ void GridWidget::Bind(std::shared_ptr<platform::Array2D> array) {
 }
 
 void GridWidget::Rebind() {
+  // The rows under an edit may be gone: the edit is dropped, and the grid takes the focus back
+  // from its editor.
+  NumberEditWidget* editor = editing_ ? EditorOf(current_column_) : nullptr;
   pending_.clear();
   editing_ = false;
-  bool has_rows = array_ && array_->RowCount() > 0;
-  bool row_still_there = has_rows && current_row_ && *current_row_ >= array_->LowerBound(1) &&
-                         *current_row_ <= array_->UpperBound(1);
-  if (!row_still_there) current_row_ = has_rows ? std::optional<int>(array_->LowerBound(1)) : std::nullopt;
+  if (editor && editor->HasFocus()) form_.SetFocus(this);
+  if (current_row_ && HasRow(*current_row_)) return;
+  current_row_.reset();
+  if (array_ && array_->RowCount() > 0) current_row_ = array_->LowerBound(1);
 }
 
 std::string GridWidget::ColumnCaption(int column) const {
@@ -33,10 +38,13 @@ void GridWidget::SetColumnCaption(int column, const std::string& caption) {
 }
 
 void GridWidget::SetColumnEditor(int column, platform::NumberEdit* editor) {
-  auto* widget = dynamic_cast<NumberEditWidget*>(editor);
-  if (!widget) return;
-  editors_[column] = widget;
-  widget->AttachToGrid(this);
+  if (NumberEditWidget* old = EditorOf(column)) old->AttachToGrid(nullptr);
+  editors_.erase(column);
+  // Only this toolkit's number edits can live in its cells.
+  if (auto* widget = dynamic_cast<NumberEditWidget*>(editor)) {
+    editors_[column] = widget;
+    widget->AttachToGrid(this);
+  }
 }
 
 NumberEditWidget* GridWidget::EditorOf(int column) const {
@@ -45,23 +53,29 @@ NumberEditWidget* GridWidget::EditorOf(int column) const {
 }
 
 void GridWidget::SetCurrentRow(int row) {
-  if (!array_ || row < array_->LowerBound(1) || row > array_->UpperBound(1)) return;
-  if (current_row_ == row) return;
-  if (!pending_.empty()) CommitRow();
-  editing_ = false;
+  if (!HasRow(row) || current_row_ == row) return;
+  FinishEdit();
+  CommitRow();
   current_row_ = row;
   if (on_row_change_) on_row_change_();
 }
 
 void GridWidget::SetCurrentColumn(int column) {
-  if (column >= 0 && column < ColumnCount()) current_column_ = column;
+  if (column < 0 || column >= ColumnCount() || column == current_column_) return;
+  FinishEdit();
+  current_column_ = column;
+}
+
+bool GridWidget::HasRow(int row) const {
+  return array_ && array_->RowCount() > 0 && row >= array_->LowerBound(1) && row <= array_->UpperBound(1);
+}
+
+bool GridWidget::HasColumn(int column) const {
+  return array_ && column >= array_->LowerBound(2) && column <= array_->UpperBound(2);
 }
 
 std::string GridWidget::StoredText(int row, int column) const {
-  if (!array_ || row < array_->LowerBound(1) || row > array_->UpperBound(1) || column < array_->LowerBound(2) ||
-      column > array_->UpperBound(2)) {
-    return {};
-  }
+  if (!HasRow(row) || !HasColumn(column)) return {};
   const Variant& cell = array_->Get(row, column);
   return cell.IsNull() ? std::string() : cell.ToString();
 }
@@ -80,19 +94,16 @@ void GridWidget::SetCellText(int column, const std::string& text) {
 }
 
 void GridWidget::CommitRow() {
-  if (!current_row_ || !array_) return;
-  for (const auto& [column, text] : pending_) {
-    if (column >= array_->LowerBound(2) && column <= array_->UpperBound(2)) array_->Set(*current_row_, column, text);
+  if (current_row_ && HasRow(*current_row_)) {
+    for (const auto& [column, text] : pending_) {
+      if (HasColumn(column)) array_->Set(*current_row_, column, Variant(text));
+    }
   }
   pending_.clear();
 }
 
 std::string GridWidget::DisplayedText(int row, int column) const {
-  if (current_row_ == row) {
-    auto found = pending_.find(column);
-    if (found != pending_.end()) return found->second;
-  }
-  return StoredText(row, column);
+  return current_row_ == row ? CellText(column) : StoredText(row, column);
 }
 
 void GridWidget::FilterKey(platform::KeyPress& press) {
@@ -109,11 +120,12 @@ void GridWidget::HandleCharacter(char32_t character) {
     editing_ = true;
     editor->SetText(current);
     form_.SetFocus(editor);
-    if (form_.Focused() != editor) return;
-    // The key has passed the grid's filter once already; the editor takes it as it is.
-    editor->AttachToGrid(nullptr);
-    editor->HandleCharacter(press.key);
-    editor->AttachToGrid(this);
+    // A focus-gained handler may have sent the focus elsewhere; then there is no edit.
+    if (!editor->HasFocus()) {
+      editing_ = false;
+      return;
+    }
+    editor->TypeCharacter(press.key);
     return;
   }
   std::string text = CellText(current_column_);
@@ -136,11 +148,30 @@ void GridWidget::EndEdit() {
   CommitRow();
 }
 
+void GridWidget::FinishEdit() {
+  NumberEditWidget* editor = editing_ ? EditorOf(current_column_) : nullptr;
+  EndEdit();
+  if (editor && editor->HasFocus()) form_.SetFocus(this);
+}
+
+void GridWidget::EditorGainingFocus(NumberEditWidget& editor) {
+  if (editing_ || !current_row_) return;
+  // Focused by the program rather than by typing: it edits its own column's cell all the same,
+  // so that Enter or Tab writes it back.
+  for (const auto& [column, cell_editor] : editors_) {
+    if (cell_editor != &editor) continue;
+    current_column_ = column;
+    editor.SetText(CellText(column));
+    editing_ = true;
+    return;
+  }
+}
+
 void GridWidget::EndEditFromEditor(platform::KeyDown& key) {
   EndEdit();
   form_.SetFocus(this);
+  // A key the grid leaves alone (Tab from the last cell) goes on to the form from the grid.
   HandleKeyDown(key);
-  key.key_code = 0;
 }
 
 void GridWidget::HandleKeyDown(platform::KeyDown& key) {

@@ -50,13 +50,19 @@ class GridWidget : public WidgetBase<platform::Grid> {
   // Used by the in-cell editor.
   void FilterKey(platform::KeyPress& press);
   void EndEditFromEditor(platform::KeyDown& key);
+  void EditorGainingFocus(NumberEditWidget& editor);
   void EditorLosingFocus() { EndEdit(); }
 
  private:
   NumberEditWidget* EditorOf(int column) const;
+  bool HasRow(int row) const;
+  bool HasColumn(int column) const;
   std::string StoredText(int row, int column) const;
   void Navigate(platform::KeyDown& key);
+  // Writes an edit in progress into the cell and commits the row.
   void EndEdit();
+  // As EndEdit, and the grid takes the focus back from its editor.
+  void FinishEdit();
 
   std::shared_ptr<platform::Array2D> array_;
   std::vector<std::string> captions_;

@@ -4,7 +4,10 @@
 
 namespace zenta::headless {
 
-void Host::InjectKeys(const std::string& keys) { form_.QueueKeys(keys); }
+void Host::InjectKeys(const std::string& keys) {
+  form_.QueueKeys(keys);
+  injected_.push_back(keys);
+}
 
 void Host::RaiseEvent(platform::RaisedEvent& event) {
   if (on_event_) on_event_(event);

@@ -21,7 +21,8 @@ class UnexpectedMessageBox : public std::logic_error {
 
 // Host services in memory, for one control on a Form. It records what the control asked of
 // the host — raised events (number, name, arguments after the handler ran), message boxes,
-// properties marked changed — and answers message boxes from a queue the caller fills.
+// injected keystrokes, properties marked changed — and answers message boxes from a queue the
+// caller fills.
 class Host : public platform::HostServices {
  public:
   explicit Host(Form& form) : form_(form) {}
@@ -45,6 +46,8 @@ class Host : public platform::HostServices {
   void ClearEvents() { events_.clear(); }
 
   const std::vector<std::string>& ChangedProperties() const { return changed_; }
+  // Every keystroke script the control injected, in order ("{TAB}").
+  const std::vector<std::string>& InjectedKeys() const { return injected_; }
 
   // Sets today for the whole form (default: the system clock's date).
   void SetToday(Date today);
@@ -57,6 +60,7 @@ class Host : public platform::HostServices {
   std::function<void(platform::RaisedEvent&)> on_event_;
   std::vector<platform::RaisedEvent> events_;
   std::vector<std::string> changed_;
+  std::vector<std::string> injected_;
   char32_t separator_ = U'.';
 };
 

@@ -10,8 +10,7 @@ namespace zenta::headless {
 // A caption; it never takes the focus.
 class LabelWidget : public WidgetBase<platform::Label> {
  public:
-  LabelWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition, std::string caption)
-      : WidgetBase(form, surface, definition), caption_(std::move(caption)) {}
+  LabelWidget(Form& form, Surface* surface, const platform::WidgetSpec& definition, std::string caption);
 
   std::string Caption() const override { return caption_; }
   void SetCaption(const std::string& caption) override { caption_ = caption; }

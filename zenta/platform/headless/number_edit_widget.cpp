@@ -30,9 +30,14 @@ void NumberEditWidget::SetText(const std::string& text) {
 }
 
 void NumberEditWidget::SetEditFormat(const std::string& pattern) {
-  auto point = pattern.find('.');
-  integer_digits_ = static_cast<int>(point == std::string::npos ? pattern.size() : point);
-  decimals_ = point == std::string::npos ? 0 : static_cast<int>(pattern.size() - point - 1);
+  // Only digit placeholders count: grouping or literal characters in a pattern are not typed.
+  integer_digits_ = 0;
+  decimals_ = 0;
+  bool point = false;
+  for (char c : pattern) {
+    if (c == '.') point = true;
+    if (c == '#' || c == '0' || c == '9') ++(point ? decimals_ : integer_digits_);
+  }
 }
 
 std::string NumberEditWidget::DisplayText() const {
@@ -72,6 +77,10 @@ void NumberEditWidget::HandleCharacter(char32_t character) {
     grid_->FilterKey(press);
     character = press.key;
   }
+  TypeCharacter(character);
+}
+
+void NumberEditWidget::TypeCharacter(char32_t character) {
   if (character == 0) return;
   if (character == platform::keys::kBackspace) {
     if (all_selected_) {
@@ -93,6 +102,7 @@ void NumberEditWidget::HandleCharacter(char32_t character) {
 
 void NumberEditWidget::FocusGained() {
   all_selected_ = true;
+  if (grid_) grid_->EditorGainingFocus(*this);
   if (on_focus_gained_) on_focus_gained_();
 }
 

@@ -36,6 +36,8 @@ class NumberEditWidget : public WidgetBase<platform::NumberEdit> {
   // Set when the edit serves a grid as its in-cell editor: typed keys pass the grid's filter
   // first, and Enter or Tab end the grid's edit.
   void AttachToGrid(GridWidget* grid) { grid_ = grid; }
+  // A character that has passed every filter already (the key that opened a grid cell).
+  void TypeCharacter(char32_t character);
   bool AllSelected() const { return all_selected_; }
 
  private:

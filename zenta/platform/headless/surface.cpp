@@ -1,14 +1,21 @@
 #include "zenta/platform/headless/surface.h"
 
+#include <stdexcept>
+
 #include "zenta/platform/headless/check_box_widget.h"
 #include "zenta/platform/headless/date_edit_widget.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/grid_widget.h"
 #include "zenta/platform/headless/label_widget.h"
 #include "zenta/platform/headless/number_edit_widget.h"
+#include "zenta/platform/headless/scoped_flag.h"
 #include "zenta/platform/headless/text_box_widget.h"
 
 namespace zenta::headless {
+
+namespace {
+constexpr int kResizeRounds = 100;
+}  // namespace
 
 Surface::Surface(Form& form, std::string name, int width_twips, int height_twips)
     : form_(form), name_(std::move(name)), width_(width_twips), height_(height_twips) {}
@@ -60,23 +67,26 @@ platform::Widget* Surface::ActiveChild() const {
   return nullptr;
 }
 
-void Surface::SetWidth(int twips) {
-  if (twips == width_) return;
-  width_ = twips;
-  if (on_resize_) on_resize_();
-}
-
-void Surface::SetHeight(int twips) {
-  if (twips == height_) return;
-  height_ = twips;
-  if (on_resize_) on_resize_();
-}
+void Surface::SetWidth(int twips) { SetSize(twips, height_); }
+void Surface::SetHeight(int twips) { SetSize(width_, twips); }
 
 void Surface::SetSize(int width_twips, int height_twips) {
   if (width_twips == width_ && height_twips == height_) return;
   width_ = width_twips;
   height_ = height_twips;
-  if (on_resize_) on_resize_();
+  // A resize handler that sizes the control again (to its minimum, say) is told once it has
+  // returned, not from inside itself; one that never settles is a bug worth an error.
+  if (resizing_) {
+    resized_again_ = true;
+    return;
+  }
+  ScopedFlag inside(resizing_);
+  for (int round = 0; on_resize_; ++round) {
+    if (round == kResizeRounds) throw std::logic_error("resize handler of " + name_ + " keeps resizing");
+    resized_again_ = false;
+    on_resize_();
+    if (!resized_again_) break;
+  }
 }
 
 platform::Widget* Surface::Find(const std::string& name) const {

@@ -46,6 +46,7 @@ class Surface : public platform::ControlSurface {
 
   const std::string& Name() const { return name_; }
   void SetUserMode(bool user_mode) { user_mode_ = user_mode; }
+  // As the host resizing the control: one resize notification when the size changes.
   void SetSize(int width_twips, int height_twips);
 
   platform::Widget* Find(const std::string& name) const;
@@ -75,6 +76,8 @@ class Surface : public platform::ControlSurface {
   bool user_mode_ = true;
   int width_;
   int height_;
+  bool resizing_ = false;
+  bool resized_again_ = false;
   std::function<void(platform::KeyDown&)> on_key_down_;
   platform::Callback on_resize_;
   platform::Callback on_shown_;

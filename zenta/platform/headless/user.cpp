@@ -4,14 +4,18 @@
 #include "zenta/platform/headless/check_box_widget.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/text_box_widget.h"
+#include "zenta/platform/typed_key.h"
 
 namespace zenta::headless {
 
 namespace {
-// The key code a character's key sends: letters as their capital, others as themselves.
-int KeyCodeOf(char32_t character) {
-  if (character >= U'a' && character <= U'z') return static_cast<int>(character - U'a' + U'A');
-  return static_cast<int>(character);
+// Each action is one turn of an event loop: keystrokes a program call injected since the last
+// action run first, and those the action's own handlers inject run before it returns.
+template <class Action>
+void Turn(Form& form, Action action) {
+  form.ProcessQueuedKeys();
+  action();
+  form.ProcessQueuedKeys();
 }
 }  // namespace
 
@@ -22,41 +26,38 @@ void User::Type(std::string_view text) {
     } else if (character == U'\r' || character == U'\n') {
       PressEnter();
     } else {
-      if (form_.DeliverKeyDown(platform::KeyDown{KeyCodeOf(character), platform::kNoShift})) {
-        form_.DeliverCharacter(character);
-      }
-      form_.ProcessQueuedKeys();
+      Turn(form_, [&] {
+        if (form_.DeliverKeyDown(platform::KeyDownFor(character))) form_.DeliverCharacter(character);
+      });
     }
   }
 }
 
 void User::PressKey(int key_code, int shift) {
-  form_.DeliverKeyDown(platform::KeyDown{key_code, shift});
-  form_.ProcessQueuedKeys();
+  Turn(form_, [&] {
+    // Enter's character comes with its key-down; Backspace's is sent here.
+    if (form_.DeliverKeyDown(platform::KeyDown{key_code, shift}) && key_code == platform::keys::kBackspace) {
+      form_.DeliverCharacter(platform::keys::kBackspace);
+    }
+  });
 }
 
-void User::PressBackspace() {
-  if (form_.DeliverKeyDown(platform::KeyDown{platform::keys::kBackspace, platform::kNoShift})) {
-    form_.DeliverCharacter(platform::keys::kBackspace);
-  }
-  form_.ProcessQueuedKeys();
-}
+void User::PressBackspace() { PressKey(platform::keys::kBackspace); }
 
 void User::Click(platform::Widget& widget) {
-  if (!form_.CanFocus(&widget)) return;
-  form_.SetFocus(&widget);
-  if (auto* box = dynamic_cast<CheckBoxWidget*>(&widget)) box->Toggle();
-  form_.ProcessQueuedKeys();
+  Turn(form_, [&] {
+    if (!form_.CanFocus(&widget)) return;
+    form_.SetFocus(&widget);
+    if (auto* box = dynamic_cast<CheckBoxWidget*>(&widget); box && box->HasFocus()) box->Toggle();
+  });
 }
 
 void User::Focus(platform::Widget& widget) {
-  form_.SetFocus(&widget);
-  form_.ProcessQueuedKeys();
+  Turn(form_, [&] { form_.SetFocus(&widget); });
 }
 
 void User::LeaveControl() {
-  form_.SetFocus(form_.FirstHostField());
-  form_.ProcessQueuedKeys();
+  Turn(form_, [&] { form_.SetFocus(form_.FirstHostField()); });
 }
 
 }  // namespace zenta::headless

@@ -10,19 +10,20 @@ namespace zenta::headless {
 class Form;
 
 // A person at the keyboard, for tests and host scripts that read like what a payer does.
-// Every action is synchronous and runs the keystrokes that handlers injected before it
-// returns.
+// Every action is synchronous: keystrokes injected since the last action run first, then the
+// action, then the keystrokes its handlers injected, all before it returns.
 class User {
  public:
   explicit User(Form& form) : form_(form) {}
 
-  // Each character (UTF-8): a key-down through the surface preview, then, unless discarded, a
-  // key-press through the focused widget's filters into its text. "\t" and "\r" act as Tab
-  // and Enter.
+  // Each character (UTF-8): a key-down through the surface preview (with the key code and
+  // Shift state a US keyboard sends), then, unless discarded, a key-press through the focused
+  // widget's filters into its text. "\t" and "\r" act as Tab and Enter.
   void Type(std::string_view text);
   void PressTab() { PressKey(platform::keys::kTab); }
   void PressShiftTab() { PressKey(platform::keys::kTab, platform::kShift); }
   void PressEnter(int shift = platform::kNoShift) { PressKey(platform::keys::kEnter, shift); }
+  // A key-down only; Enter and Backspace also send their character when not discarded.
   void PressKey(int key_code, int shift = platform::kNoShift);
   void PressBackspace();
   // Focus to the widget as a mouse click does (ignored when it cannot take the focus); a

@@ -1,6 +1,7 @@
 #include "zenta/qt/toolkit/key_mapping.h"
 
 #include "zenta/platform/grid_navigation.h"
+#include "zenta/platform/typed_key.h"
 
 namespace zenta::qt {
 
@@ -26,13 +27,18 @@ platform::KeyDown ToKeyDown(const QKeyEvent& event) {
     case Qt::Key_F4: key.key_code = platform::keys::kF4; break;
     case Qt::Key_Up: key.key_code = platform::keys::kUp; break;
     case Qt::Key_Down: key.key_code = platform::keys::kDown; break;
-    default:
-      if ((qt_key >= Qt::Key_0 && qt_key <= Qt::Key_9) || (qt_key >= Qt::Key_A && qt_key <= Qt::Key_Z) ||
-          qt_key == Qt::Key_Space) {
-        key.key_code = qt_key;  // Qt's codes for these are their ASCII capitals
+    default: {
+      // Characters go by the key a US keyboard types them with, so "(" never reads as the
+      // Down arrow that shares its ASCII value.
+      const QString text = event.text();
+      if (text.size() == 1 && text[0].isPrint()) {
+        const int shift = key.shift;
+        key = platform::KeyDownFor(text[0].unicode());
+        key.shift |= shift & (platform::kCtrl | platform::kAlt);
       } else {
-        key.key_code = qt_key & 0xFFFF;
+        key.key_code = 0x10000 | (qt_key & 0xFFFF);  // keys the controls never look at
       }
+    }
   }
   return key;
 }
