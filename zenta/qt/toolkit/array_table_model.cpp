@@ -42,7 +42,7 @@ std::string ArrayTableModel::StoredText(int bookmark, int column) const {
     return {};
   }
   const Variant& cell = array_->Get(bookmark, column);
-  return cell.IsNull() ? std::string() : cell.ToString();
+  return cell.IsNull() || cell.IsObject() ? std::string() : cell.ToString();
 }
 
 int ArrayTableModel::rowCount(const QModelIndex& parent) const {
@@ -51,6 +51,12 @@ int ArrayTableModel::rowCount(const QModelIndex& parent) const {
 
 int ArrayTableModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(captions_.size());
+}
+
+Qt::ItemFlags ArrayTableModel::flags(const QModelIndex& index) const {
+  // Editable so that a view opens a column's editor; which columns have one is the grid's affair.
+  if (!index.isValid()) return Qt::NoItemFlags;
+  return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable;
 }
 
 QVariant ArrayTableModel::data(const QModelIndex& index, int role) const {

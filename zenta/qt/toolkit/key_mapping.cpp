@@ -5,42 +5,61 @@
 
 namespace zenta::qt {
 
-platform::KeyDown ToKeyDown(const QKeyEvent& event) {
-  platform::KeyDown key;
-  Qt::KeyboardModifiers modifiers = event.modifiers();
-  if (modifiers & Qt::ShiftModifier) key.shift |= platform::kShift;
-  if (modifiers & Qt::ControlModifier) key.shift |= platform::kCtrl;
-  if (modifiers & Qt::AltModifier) key.shift |= platform::kAlt;
-  const int qt_key = event.key();
+namespace {
+// Virtual-key codes of the keys that have no character.
+int CodeOfNamedKey(int qt_key) {
   switch (qt_key) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: key.key_code = platform::keys::kEnter; break;
-    case Qt::Key_Tab: key.key_code = platform::keys::kTab; break;
-    case Qt::Key_Backtab:
-      key.key_code = platform::keys::kTab;
-      key.shift |= platform::kShift;
-      break;
-    case Qt::Key_Backspace: key.key_code = platform::keys::kBackspace; break;
-    case Qt::Key_Escape: key.key_code = platform::keys::kEscape; break;
-    case Qt::Key_F2: key.key_code = platform::keys::kF2; break;
-    case Qt::Key_F3: key.key_code = platform::keys::kF3; break;
-    case Qt::Key_F4: key.key_code = platform::keys::kF4; break;
-    case Qt::Key_Up: key.key_code = platform::keys::kUp; break;
-    case Qt::Key_Down: key.key_code = platform::keys::kDown; break;
-    default: {
-      // Characters go by the key a US keyboard types them with, so "(" never reads as the
-      // Down arrow that shares its ASCII value.
-      const QString text = event.text();
-      if (text.size() == 1 && text[0].isPrint()) {
-        const int shift = key.shift;
-        key = platform::KeyDownFor(text[0].unicode());
-        key.shift |= shift & (platform::kCtrl | platform::kAlt);
-      } else {
-        key.key_code = 0x10000 | (qt_key & 0xFFFF);  // keys the controls never look at
-      }
-    }
+    case Qt::Key_Enter: return platform::keys::kEnter;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: return platform::keys::kTab;
+    case Qt::Key_Backspace: return platform::keys::kBackspace;
+    case Qt::Key_Shift: return 16;
+    case Qt::Key_Control: return 17;
+    case Qt::Key_Alt: return 18;
+    case Qt::Key_Escape: return platform::keys::kEscape;
+    case Qt::Key_PageUp: return 33;
+    case Qt::Key_PageDown: return 34;
+    case Qt::Key_End: return 35;
+    case Qt::Key_Home: return 36;
+    case Qt::Key_Left: return 37;
+    case Qt::Key_Up: return platform::keys::kUp;
+    case Qt::Key_Right: return 39;
+    case Qt::Key_Down: return platform::keys::kDown;
+    case Qt::Key_Insert: return 45;
+    case Qt::Key_Delete: return 46;
+    default: break;
   }
-  return key;
+  if (qt_key >= Qt::Key_F1 && qt_key <= Qt::Key_F24) return 112 + (qt_key - Qt::Key_F1);
+  return 0;
+}
+}  // namespace
+
+platform::KeyDown ToKeyDown(const QKeyEvent& event) {
+  int shift = platform::kNoShift;
+  const Qt::KeyboardModifiers modifiers = event.modifiers();
+  if (modifiers & Qt::ShiftModifier) shift |= platform::kShift;
+  if (modifiers & Qt::ControlModifier) shift |= platform::kCtrl;
+  if (modifiers & Qt::AltModifier) shift |= platform::kAlt;
+  const int qt_key = event.key();
+  // A modifier's own key-down counts it as held; Backtab is Shift+Tab.
+  if (qt_key == Qt::Key_Backtab || qt_key == Qt::Key_Shift) shift |= platform::kShift;
+  if (qt_key == Qt::Key_Control) shift |= platform::kCtrl;
+  if (qt_key == Qt::Key_Alt) shift |= platform::kAlt;
+
+  if (int code = CodeOfNamedKey(qt_key)) return {code, shift};
+  // Qt's codes for A-Z and 0-9 are their ASCII values: Ctrl+A is 'A' even though it types ^A.
+  if ((qt_key >= Qt::Key_A && qt_key <= Qt::Key_Z) || (qt_key >= Qt::Key_0 && qt_key <= Qt::Key_9) ||
+      qt_key == Qt::Key_Space) {
+    return {qt_key, shift};
+  }
+  const QList<uint> typed = event.text().toUcs4();
+  if (typed.size() == 1 && QChar::isPrint(typed[0])) {
+    platform::KeyDown key = platform::KeyDownFor(static_cast<char32_t>(typed[0]));
+    key.shift |= shift & (platform::kCtrl | platform::kAlt);
+    return key;
+  }
+  return {0x10000 | (qt_key & 0xFFFF), shift};
 }
 
 }  // namespace zenta::qt

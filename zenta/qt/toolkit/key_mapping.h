@@ -6,10 +6,12 @@
 
 namespace zenta::qt {
 
-// A Qt key press as the controls see key-downs: Enter and Return are 13, Tab and Backtab 9
-// (Backtab with Shift), letters their capital's code, digits their own; Shift, Ctrl and Alt
-// become the shift bits; other characters come as the US-keyboard key that types them. Keys
-// the controls never look at map above 0xFFFF, clear of every code they test.
+// A Qt key press as the controls see key-downs: Enter and Return are 13, Tab 9 and Backtab 9
+// with Shift, letters their capital's code and digits their own (whatever Ctrl or Alt does to
+// the typed text), function and navigation keys their usual virtual-key codes; Shift, Ctrl and
+// Alt become the shift bits. Punctuation comes as the US-keyboard key that types it, so "(" is
+// never read as the Down arrow that shares its ASCII value. Keys the controls never look at map
+// above 0xFFFF, clear of every code they test.
 platform::KeyDown ToKeyDown(const QKeyEvent& event);
 
 }  // namespace zenta::qt

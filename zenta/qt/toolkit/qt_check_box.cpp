@@ -18,9 +18,12 @@ int QtCheckBox::State() const {
 }
 
 void QtCheckBox::SetState(int state) {
+  if (state != 1 && state != 2) state = 0;
   if (state == State()) return;
   setCheckState(state == 1 ? Qt::Checked : state == 2 ? Qt::PartiallyChecked : Qt::Unchecked);
   if (on_click_) on_click_();
 }
+
+void QtCheckBox::nextCheckState() { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
 
 }  // namespace zenta::qt

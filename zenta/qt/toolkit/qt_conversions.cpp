@@ -1,17 +1,40 @@
 #include "zenta/qt/toolkit/qt_conversions.h"
 
 #include <exception>
+#include <limits>
 #include <mutex>
 
 namespace zenta::qt {
+
+namespace {
+// Day 0 of Date, 1899/12/30, as a Julian day: every day number maps without calendar arithmetic.
+constexpr qint64 kJulianDayOfZeroDate = 2415019;
+
+Variant FromWideInteger(qint64 value) {
+  if (value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max()) {
+    return Variant(static_cast<std::int32_t>(value));
+  }
+  return Variant(static_cast<double>(value));
+}
+}  // namespace
 
 QString ToQString(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 std::string FromQString(const QString& text) { return text.toStdString(); }
 
+QString ToQString(Currency value) { return QString::fromStdString(value.ToString()); }
+
+std::optional<Currency> CurrencyFromQString(const QString& text) {
+  try {
+    return Currency::Parse(text.toStdString());
+  } catch (const std::exception&) {
+    return std::nullopt;  // well formed but out of range
+  }
+}
+
 QDate ToQDate(Date date) {
   if (date.IsZero()) return QDate();
-  return QDate(date.Year(), date.Month(), date.Day());
+  return QDate::fromJulianDay(kJulianDayOfZeroDate + date.DayNumber());
 }
 
 Date FromQDate(const QDate& date) {
@@ -24,49 +47,82 @@ QVariant ToQVariant(const Variant& value) {
     case Variant::Type::Empty: return QVariant();
     case Variant::Type::Null: return QVariant::fromValue(nullptr);
     case Variant::Type::Boolean: return value.ToBool();
-    case Variant::Type::Integer:
-    case Variant::Type::Long: return value.ToLong();
+    case Variant::Type::Integer: return QVariant::fromValue(static_cast<short>(value.ToInteger()));
+    case Variant::Type::Long: return static_cast<int>(value.ToLong());
     case Variant::Type::Single: return value.ToSingle();
     case Variant::Type::Double: return value.ToDouble();
     case Variant::Type::Currency: return QVariant::fromValue(value.ToCurrency());
     case Variant::Type::Date: return ToQDate(value.ToDate());
     case Variant::Type::String: return ToQString(value.ToString());
-    case Variant::Type::Object: return QVariant();
+    case Variant::Type::Object: return QVariant::fromValue(value.ToObject());
   }
   return QVariant();
 }
 
 Variant FromQVariant(const QVariant& value) {
   if (!value.isValid()) return Variant();
-  if (value.isNull() && value.typeId() == QMetaType::Nullptr) return Variant::Null();
-  if (value.canConvert<Currency>() && value.metaType() == QMetaType::fromType<Currency>()) {
-    return Variant(value.value<Currency>());
-  }
-  switch (value.typeId()) {
+  const QMetaType type = value.metaType();
+  if (type == QMetaType::fromType<Currency>()) return Variant(value.value<Currency>());
+  if (type == QMetaType::fromType<ObjectRef>()) return Variant(value.value<ObjectRef>());
+  switch (type.id()) {
+    case QMetaType::Nullptr: return Variant::Null();
     case QMetaType::Bool: return Variant(value.toBool());
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
     case QMetaType::Short: return Variant(static_cast<std::int16_t>(value.toInt()));
+    case QMetaType::UShort:
     case QMetaType::Int: return Variant(static_cast<std::int32_t>(value.toInt()));
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::LongLong: return FromWideInteger(value.toLongLong());
+    case QMetaType::ULong:
+    case QMetaType::ULongLong: {
+      const qulonglong wide = value.toULongLong();
+      if (wide > static_cast<qulonglong>(std::numeric_limits<std::int32_t>::max())) {
+        return Variant(static_cast<double>(wide));
+      }
+      return Variant(static_cast<std::int32_t>(wide));
+    }
     case QMetaType::Float: return Variant(value.toFloat());
     case QMetaType::Double: return Variant(value.toDouble());
     case QMetaType::QDate: return Variant(FromQDate(value.toDate()));
-    default: return Variant(FromQString(value.toString()));
+    case QMetaType::QDateTime: return Variant(FromQDate(value.toDateTime().date()));
+    default: break;
   }
+  if (value.canConvert<QString>()) return Variant(FromQString(value.toString()));
+  return Variant();
 }
 
 std::optional<QPalette::ColorRole> PaletteRoleOf(OleColor color) {
   if (!IsSystemColor(color)) return std::nullopt;
   switch (SystemColorIndex(color)) {
-    case 5: return QPalette::Base;          // window background
-    case 8: return QPalette::Text;          // window text
-    case 13: return QPalette::Highlight;
+    case 0: return QPalette::Button;          // scroll bar
+    case 2:
+    case 13:
+    case 27:
+    case 29: return QPalette::Highlight;      // active caption, selection, menu highlight
+    case 3:
+    case 28: return QPalette::Mid;            // inactive caption
+    case 5: return QPalette::Base;            // window background
+    case 6:
+    case 21: return QPalette::Shadow;         // window frame, 3-D dark shadow
+    case 7:
+    case 19: return QPalette::WindowText;     // menu text, inactive caption text
+    case 8: return QPalette::Text;            // window text
+    case 9:
     case 14: return QPalette::HighlightedText;
-    case 15: return QPalette::Button;       // button face
-    case 16: return QPalette::Dark;         // button shadow
+    case 12:
+    case 16: return QPalette::Dark;           // application workspace, button shadow
+    case 15: return QPalette::Button;         // button face
+    case 17: return QPalette::PlaceholderText;  // grey text
     case 18: return QPalette::ButtonText;
-    case 20: return QPalette::Light;        // 3-D highlight
-    case 22: return QPalette::Midlight;     // 3-D light
+    case 20: return QPalette::Light;          // 3-D highlight
+    case 22: return QPalette::Midlight;       // 3-D light
+    case 23: return QPalette::ToolTipText;
     case 24: return QPalette::ToolTipBase;
-    default: return QPalette::Window;
+    case 26: return QPalette::Link;           // hot-tracked item
+    default: return QPalette::Window;         // desktop, menus, borders, menu bar
   }
 }
 
@@ -76,23 +132,21 @@ QColor ToQColor(OleColor color, const QPalette& palette) {
 }
 
 OleColor FromQColor(const QColor& color) {
-  return Rgb(static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),
-             static_cast<std::uint8_t>(color.blue()));
+  const QColor rgb = color.toRgb();
+  return Rgb(static_cast<std::uint8_t>(rgb.red()), static_cast<std::uint8_t>(rgb.green()),
+             static_cast<std::uint8_t>(rgb.blue()));
 }
 
 void RegisterMetaTypes() {
   static std::once_flag once;
   std::call_once(once, [] {
     qRegisterMetaType<Currency>("zenta::Currency");
-    QMetaType::registerConverter<Currency, QString>([](const Currency& c) { return QString::fromStdString(c.ToString()); });
+    qRegisterMetaType<ObjectRef>("zenta::ObjectRef");
+    QMetaType::registerConverter<Currency, QString>([](const Currency& c) { return ToQString(c); });
     QMetaType::registerConverter<Currency, double>([](const Currency& c) { return c.ToDouble(); });
-    QMetaType::registerConverter<QString, Currency>([](const QString& text) {
-      try {
-        return Currency::Parse(text.toStdString()).value_or(Currency());
-      } catch (const std::exception&) {
-        return Currency();  // out of range: Qt converters cannot report errors
-      }
-    });
+    // Qt converters cannot report failure: malformed or out-of-range text reads as zero.
+    QMetaType::registerConverter<QString, Currency>(
+        [](const QString& text) { return CurrencyFromQString(text).value_or(Currency()); });
   });
 }
 

@@ -6,6 +6,8 @@
 #include <QPalette>
 #include <QString>
 #include <QVariant>
+#include <optional>
+#include <string>
 
 #include "zenta/core/currency.h"
 #include "zenta/core/date.h"
@@ -13,17 +15,23 @@
 #include "zenta/core/variant.h"
 
 Q_DECLARE_METATYPE(zenta::Currency)
+Q_DECLARE_METATYPE(zenta::ObjectRef)
 
 namespace zenta::qt {
 
 // How the library's values cross into Qt, in one place:
-// - Currency stays exact: it travels in a QVariant as zenta::Currency, which converts to and
-//   from QString ("12.5") and converts to double for display-only use.
-// - Date is a QDate; the zero date (no date) is a null QDate.
-// - OLE colours are QColors; a system colour reads as the palette colour it names today.
-// - Text is UTF-8 on our side and QString on Qt's.
+// - Text is UTF-8 on our side and QString on Qt's; malformed UTF-8 becomes U+FFFD.
+// - Currency stays exact: as text it is the invariant "12.5" form, and in a QVariant it travels
+//   as zenta::Currency (convertible to QString, and to double for display-only use).
+// - Date is a QDate; the zero date ("no date") is a null QDate and back.
+// - Variants keep their type through QVariant: 16-bit integers as short, objects as ObjectRef.
+// - OLE colours are QColors; a system colour reads as the palette colour of the role it names.
 QString ToQString(const std::string& text);
 std::string FromQString(const QString& text);
+
+QString ToQString(Currency value);
+// Invariant text only ("." is the point); nullopt for anything else or out of range.
+std::optional<Currency> CurrencyFromQString(const QString& text);
 
 QDate ToQDate(Date date);
 Date FromQDate(const QDate& date);
@@ -33,10 +41,10 @@ Variant FromQVariant(const QVariant& value);
 
 QColor ToQColor(OleColor color, const QPalette& palette);
 OleColor FromQColor(const QColor& color);
-// The palette role a system colour maps to, or nullopt for an RGB colour.
+// The palette role a system colour stands for, or nullopt for an RGB colour.
 std::optional<QPalette::ColorRole> PaletteRoleOf(OleColor color);
 
-// Registers the Currency metatype and its converters; cheap to call again.
+// Registers the metatypes above and the Currency converters; cheap to call again.
 void RegisterMetaTypes();
 
 }  // namespace zenta::qt

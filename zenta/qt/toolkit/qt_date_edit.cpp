@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -12,34 +13,62 @@
 
 namespace zenta::qt {
 
+namespace {
+// QLineEdit moves the caret to the first blank of a masked field on Tab; this one selects the
+// whole date instead, so that typing replaces it.
+class MaskedDateLine : public QLineEdit {
+ public:
+  explicit MaskedDateLine(QWidget* parent) : QLineEdit(parent) { setInputMask("9999/99/99;_"); }
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    QLineEdit::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    if (IsTransientFocusChange(reason)) return;
+    if (reason != Qt::MouseFocusReason) {
+      selectAll();
+    } else if (displayText() == ToQString(std::string(formats::kDateMask))) {
+      // An empty field starts at its first digit, not where the click landed; the press that
+      // gave the focus places the caret after this.
+      QTimer::singleShot(0, this, [this] { setCursorPosition(0); });
+    }
+  }
+};
+
+bool IsDateKey(const QKeyEvent& key) {
+  return key.key() == Qt::Key_F2 || key.key() == Qt::Key_F3 || key.key() == Qt::Key_F4 ||
+         (key.key() == Qt::Key_Down && (key.modifiers() & Qt::AltModifier));
+}
+}  // namespace
+
 QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
-    : QWidget(parent), QtWidgetBase(*this, definition), editor_(new QLineEdit(this)), button_(new QToolButton(this)),
-      popup_(new QFrame(this, Qt::Popup)), calendar_(new QCalendarWidget(popup_)) {
+    : QWidget(parent), QtWidgetBase(*this, definition), editor_(new MaskedDateLine(this)),
+      button_(new QToolButton(this)), popup_(new QFrame(this, Qt::Popup)), calendar_(new QCalendarWidget(popup_)) {
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(editor_);
   layout->addWidget(button_);
   editor_->setObjectName(ToQString(definition.name) + "_text");
-  editor_->setInputMask("9999/99/99;_");
   editor_->installEventFilter(this);
   setFocusProxy(editor_);
+  setFocusPolicy(editor_->focusPolicy());
   button_->setArrowType(Qt::DownArrow);
   button_->setFocusPolicy(Qt::NoFocus);
-  button_->setToolTip("Calendar (F4)");
+  button_->setToolTip(tr("Calendar (F4)"));
   connect(button_, &QToolButton::clicked, this, [this] { OpenCalendar(); });
 
   auto* popup_layout = new QVBoxLayout(popup_);
   popup_layout->setContentsMargins(1, 1, 1, 1);
   popup_layout->addWidget(calendar_);
   popup_->setFrameShape(QFrame::Box);
+  // Day names "Sun" to "Sat" and the title "November 2026", whatever the user's locale.
+  calendar_->setLocale(QLocale(QLocale::English, QLocale::Canada));
   calendar_->setFirstDayOfWeek(Qt::Sunday);
+  calendar_->setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
   calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  connect(calendar_, &QCalendarWidget::clicked, this, [this](const QDate& picked) {
-    SetValue(FromQDate(picked));
-    popup_->hide();
-    editor_->setFocus(Qt::PopupFocusReason);
-  });
+  connect(calendar_, &QCalendarWidget::clicked, this, [this](const QDate& date) { PickDate(date); });
+  connect(calendar_, &QCalendarWidget::activated, this, [this](const QDate& date) { PickDate(date); });
 }
 
 std::optional<Date> QtDateEdit::Value() const { return Date::Parse(FromQString(editor_->displayText())); }
@@ -54,47 +83,68 @@ void QtDateEdit::SetValue(std::optional<Date> value) {
 
 std::string QtDateEdit::Text() const { return FromQString(editor_->displayText()); }
 
+QWidget& QtDateEdit::CalendarTitleBar() {
+  auto* bar = calendar_->findChild<QWidget*>("qt_calendar_navigationbar");
+  return bar ? *bar : *calendar_;
+}
+
 void QtDateEdit::SetCalendarTitleColor(OleColor color) {
   title_color_ = color;
-  if (auto* bar = calendar_->findChild<QWidget*>("qt_calendar_navigationbar")) {
-    QColor qcolor = ToQColor(color, palette());
-    bar->setStyleSheet(QString("background-color: %1;").arg(qcolor.name()));
-  }
+  // The title bar fills with the highlight role and its buttons write in highlighted text.
+  QWidget& bar = CalendarTitleBar();
+  const QColor fill = ToQColor(color, palette());
+  QPalette p = bar.palette();
+  p.setColor(QPalette::Highlight, fill);
+  p.setColor(QPalette::HighlightedText, fill.lightnessF() > 0.6 ? Qt::black : Qt::white);
+  bar.setPalette(p);
 }
+
+bool QtDateEdit::CalendarOpen() const { return popup_->isVisible(); }
 
 void QtDateEdit::OpenCalendar() {
   if (!isEnabled()) return;
-  auto current = Value();
+  const std::optional<Date> current = Value();
   calendar_->setSelectedDate(current ? ToQDate(*current) : QDate::currentDate());
+  popup_->adjustSize();
   popup_->move(mapToGlobal(QPoint(0, height())));
   popup_->show();
-  calendar_->setFocus();
+  calendar_->setFocus(Qt::PopupFocusReason);
+}
+
+void QtDateEdit::PickDate(const QDate& date) {
+  SetValue(FromQDate(date));
+  popup_->hide();
+  editor_->setFocus(Qt::PopupFocusReason);
 }
 
 bool QtDateEdit::eventFilter(QObject* watched, QEvent* event) {
   if (watched != editor_) return QWidget::eventFilter(watched, event);
-  if (event->type() == QEvent::KeyPress) {
-    auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_F2) {
-      SetValue(std::nullopt);
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // The field's keys, not an application shortcut's.
+      if (IsDateKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+      }
+      break;
+    case QEvent::KeyPress: {
+      auto* key = static_cast<QKeyEvent*>(event);
+      if (!IsDateKey(*key)) break;
+      if (key->key() == Qt::Key_F2) {
+        SetValue(std::nullopt);
+      } else if (key->key() == Qt::Key_F3) {
+        SetValue(FromQDate(QDate::currentDate()));
+      } else {
+        OpenCalendar();
+      }
       return true;
     }
-    if (key->key() == Qt::Key_F3) {
-      SetValue(FromQDate(QDate::currentDate()));
-      return true;
+    case QEvent::FocusOut: {
+      const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+      if (!IsTransientFocusChange(reason) && !CalendarOpen() && on_focus_lost_) on_focus_lost_();
+      break;
     }
-    if (key->key() == Qt::Key_F4) {
-      OpenCalendar();
-      return true;
-    }
-  } else if (event->type() == QEvent::FocusIn) {
-    // An empty field starts typing at the first digit, not where the click landed.
-    if (!Value() && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-      QMetaObject::invokeMethod(editor_, [this] { editor_->setCursorPosition(0); }, Qt::QueuedConnection);
-    }
-  } else if (event->type() == QEvent::FocusOut) {
-    auto reason = static_cast<QFocusEvent*>(event)->reason();
-    if (!IsTransientFocusChange(reason) && !popup_->isVisible() && on_focus_lost_) on_focus_lost_();
+    default: break;
   }
   return QWidget::eventFilter(watched, event);
 }

@@ -8,14 +8,17 @@
 #include "zenta/qt/toolkit/qt_widget_base.h"
 
 class QCalendarWidget;
-class QToolButton;
 class QFrame;
+class QToolButton;
 
 namespace zenta::qt {
 
-// A date field that can be empty, which QDateEdit cannot: a line edit typed through the mask
-// "____/__/__" with a drop-down calendar (F4 or the button) whose title bar takes the
-// control's title colour. F2 clears the date; F3 puts today's.
+// A date field that can be empty, which QDateEdit cannot be: a line edit typed through the mask
+// "____/__/__" ("yyyy/mm/dd"), all selected on entry so that the first digit starts a new date,
+// and a drop-down calendar (F4, Alt+Down or the button) with English day names whose title bar
+// takes the control's title colour. F2 clears the date and F3 puts today's. The value is a date
+// only once the eight digits form one. Focus-lost runs when the user leaves the field, not when
+// the calendar, a message box or another window takes the focus for a moment.
 class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
  public:
   QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition);
@@ -29,13 +32,17 @@ class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
 
   QLineEdit& Editor() { return *editor_; }
   QCalendarWidget& Calendar() { return *calendar_; }
+  QWidget& CalendarTitleBar();
   void OpenCalendar();
+  bool CalendarOpen() const;
 
  protected:
   QWidget& FocusTarget() override { return *editor_; }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void PickDate(const QDate& date);
+
   QLineEdit* editor_;
   QToolButton* button_;
   QFrame* popup_;

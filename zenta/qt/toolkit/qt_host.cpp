@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMessageBox>
+#include <stdexcept>
 
 #include "zenta/platform/key_script.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
@@ -42,9 +43,19 @@ platform::MessageResult ResultOf(int button) {
   }
 }
 
-Qt::Key QtKeyOf(const platform::KeyDown& key) {
-  if (key.key_code == platform::keys::kTab) return (key.shift & platform::kShift) ? Qt::Key_Backtab : Qt::Key_Tab;
-  return Qt::Key_Return;
+void SendToFocus(const platform::KeyDown& key) {
+  QWidget* target = QApplication::focusWidget();
+  if (!target) return;
+  const bool shift = (key.shift & platform::kShift) != 0;
+  const Qt::Key qt_key = key.key_code != platform::keys::kTab ? Qt::Key_Return : shift ? Qt::Key_Backtab : Qt::Key_Tab;
+  const QString text = qt_key == Qt::Key_Return ? QStringLiteral("\r") : qt_key == Qt::Key_Tab ? QStringLiteral("\t") : QString();
+  const Qt::KeyboardModifiers modifiers = shift ? Qt::ShiftModifier : Qt::NoModifier;
+  QKeyEvent press(QEvent::KeyPress, qt_key, modifiers, text);
+  QCoreApplication::sendEvent(target, &press);
+  if (QWidget* still = QApplication::focusWidget()) {
+    QKeyEvent release(QEvent::KeyRelease, qt_key, modifiers, text);
+    QCoreApplication::sendEvent(still, &release);
+  }
 }
 }  // namespace
 
@@ -53,18 +64,16 @@ void QtHost::MarkPropertyChanged(const std::string& name) {
 }
 
 void QtHost::InjectKeys(const std::string& keys) {
-  for (const platform::KeyDown& key : platform::ParseKeyScript(keys)) {
-    // Queued: the keystroke reaches whichever widget has the focus once this handler returns.
-    QMetaObject::invokeMethod(
-        qApp,
-        [key] {
-          QWidget* target = QApplication::focusWidget();
-          if (!target) return;
-          Qt::KeyboardModifiers modifiers = (key.shift & platform::kShift) ? Qt::ShiftModifier : Qt::NoModifier;
-          QKeyEvent press(QEvent::KeyPress, QtKeyOf(key), modifiers);
-          QCoreApplication::sendEvent(target, &press);
-        },
-        Qt::QueuedConnection);
+  std::vector<platform::KeyDown> script;
+  try {
+    script = platform::ParseKeyScript(keys);
+  } catch (const std::invalid_argument& error) {
+    // Thrown through Qt's event dispatch it would end the program; a bad script is dropped.
+    qWarning("InjectKeys: %s", error.what());
+    return;
+  }
+  for (const platform::KeyDown& key : script) {
+    QMetaObject::invokeMethod(qApp, [key] { SendToFocus(key); }, Qt::QueuedConnection);
   }
 }
 
@@ -75,14 +84,15 @@ void QtHost::RaiseEvent(platform::RaisedEvent& event) {
 platform::MessageResult QtHost::ShowMessage(const platform::MessageBox& box) {
   QMessageBox message(IconOf(box.icon), ToQString(box.title), ToQString(box.text), ButtonsOf(box.buttons),
                       owner_ ? owner_->window() : nullptr);
+  message.setTextFormat(Qt::PlainText);
   return ResultOf(message.exec());
 }
 
 Date QtHost::Today() const { return FromQDate(QDate::currentDate()); }
 
 char32_t QtHost::DecimalSeparator() const {
-  QString point = QLocale().decimalPoint();
-  return point.isEmpty() ? U'.' : point.toUcs4().value(0, U'.');
+  const QList<uint> point = QLocale().decimalPoint().toUcs4();
+  return point.isEmpty() ? U'.' : static_cast<char32_t>(point.front());
 }
 
 }  // namespace zenta::qt

@@ -8,10 +8,12 @@
 
 namespace zenta::qt {
 
-// Host services for a control on a Qt form: message boxes with the control's exact texts,
-// keystrokes delivered to the focused widget after the current handler returns, events and
-// property changes handed to sinks the owning widget installs, today from the system clock and
-// the decimal separator from the current QLocale.
+// Host services for a control on a Qt form. Message boxes show the control's exact title and
+// text as plain text, modal over the owner's window. Injected keystrokes are queued behind the
+// handler that injects them and each goes to whichever widget has the focus when its turn
+// comes, as typed keys would. Events and property changes go to sinks the owning widget
+// installs; today comes from the system clock, and the decimal separator from the current
+// QLocale each time it is asked.
 class QtHost : public platform::HostServices {
  public:
   explicit QtHost(QWidget& owner) : owner_(&owner) {}

@@ -2,35 +2,33 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QTimer>
 #include <QValidator>
 
-#include "zenta/core/number_format.h"
 #include "zenta/qt/toolkit/qt_array_grid.h"
 
 namespace zenta::qt {
 
 namespace {
-std::optional<Currency> ParseValue(const std::string& text) {
-  try {
-    return Currency::Parse(text);
-  } catch (const std::exception&) {
-    return std::nullopt;
-  }
-}
-
-// Refuses any edit that would leave text the edit format does not allow, pasting included.
+// Runs every change of the text, typed or pasted, through the edit's rules.
 class EditFormatValidator : public QValidator {
  public:
   explicit EditFormatValidator(QtNumberEdit& edit) : QValidator(&edit), edit_(edit) {}
-  State validate(QString& input, int&) const override {
-    return edit_.FitsEditFormat(input) ? Acceptable : Invalid;
+
+  State validate(QString& input, int& position) const override {
+    std::optional<QString> accepted = edit_.AcceptableEdit(input, position);
+    if (!accepted) return Invalid;
+    input = *accepted;
+    return Acceptable;
   }
 
  private:
   QtNumberEdit& edit_;
 };
+
+bool IsCellEndingKey(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
 }  // namespace
 
 QtNumberEdit::QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definition)
@@ -41,21 +39,42 @@ QtNumberEdit::QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definiti
   Show();
 }
 
-bool QtNumberEdit::FitsEditFormat(const QString& text) const {
-  int integer = 0, fraction = 0;
+QtNumberEdit::Counts QtNumberEdit::CountDigits(const QString& text) const {
+  Counts counts;
   bool point = false;
   for (qsizetype i = 0; i < text.size(); ++i) {
-    QChar c = text[i];
+    const QChar c = text[i];
     if (c == u'-' && i == 0) continue;
     if (c == u'.' && !point && decimals_ > 0) {
       point = true;
-    } else if (c.isDigit() && c.unicode() < 128) {
-      (point ? fraction : integer) += 1;
+    } else if (c >= u'0' && c <= u'9') {
+      (point ? counts.fraction : counts.integer) += 1;
     } else {
-      return false;
+      counts.well_formed = false;
     }
   }
-  return integer <= integer_digits_ && fraction <= decimals_;
+  return counts;
+}
+
+std::optional<QString> QtNumberEdit::AcceptableEdit(const QString& text, int& position) const {
+  const QString locale_point = locale().decimalPoint();
+  const QChar point = locale_point.size() == 1 ? locale_point[0] : QChar(u'.');
+  QString cleaned;
+  cleaned.reserve(text.size());
+  int cleaned_position = 0;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const QChar c = text[i];
+    if (c.isSpace() || c == u'$' || (c == u',' && point != u',')) continue;  // blanks, currency sign, grouping
+    cleaned += c == point ? QChar(u'.') : c;
+    if (i < position) ++cleaned_position;
+  }
+  const Counts counts = CountDigits(cleaned);
+  if (!counts.well_formed) return std::nullopt;
+  // A value the program set may be longer than the format allows; deleting from it is fine.
+  const bool fits = counts.integer <= integer_digits_ && counts.fraction <= decimals_;
+  if (!fits && cleaned.size() >= ToQString(DisplayText()).size()) return std::nullopt;
+  position = cleaned_position;
+  return cleaned;
 }
 
 void QtNumberEdit::SetValue(std::optional<Currency> value) {
@@ -66,7 +85,7 @@ void QtNumberEdit::SetValue(std::optional<Currency> value) {
 
 void QtNumberEdit::SetText(const std::string& text) {
   raw_ = text;
-  value_ = ParseValue(text);
+  value_ = CurrencyFromQString(ToQString(text));
   Show();
 }
 
@@ -76,9 +95,14 @@ void QtNumberEdit::SetDisplayFormat(const std::string& pattern) {
 }
 
 void QtNumberEdit::SetEditFormat(const std::string& pattern) {
-  auto point = pattern.find('.');
-  integer_digits_ = static_cast<int>(point == std::string::npos ? pattern.size() : point);
-  decimals_ = point == std::string::npos ? 0 : static_cast<int>(pattern.size() - point - 1);
+  // Only digit placeholders count: grouping or literal characters of a pattern are never typed.
+  integer_digits_ = 0;
+  decimals_ = 0;
+  bool point = false;
+  for (char c : pattern) {
+    if (c == '.') point = true;
+    if (c == '#' || c == '0' || c == '9') ++(point ? decimals_ : integer_digits_);
+  }
 }
 
 std::string QtNumberEdit::DisplayText() const {
@@ -93,9 +117,9 @@ void QtNumberEdit::SetBackColor(OleColor color) {
 }
 
 void QtNumberEdit::Show() {
-  QString shown = ToQString(DisplayText());
+  const QString shown = ToQString(DisplayText());
   if (QLineEdit::text() == shown) return;
-  // The validator guards typing only: a display text is always allowed in.
+  // The validator guards the user's edits; what the program shows always goes in.
   const QValidator* guard = validator();
   setValidator(nullptr);
   QLineEdit::setText(shown);
@@ -103,22 +127,28 @@ void QtNumberEdit::Show() {
 }
 
 void QtNumberEdit::TypeCharacter(char32_t character) {
-  if (character == U'.' || (character >= U'0' && character <= U'9') || character == U'-') {
-    insert(QString(QChar(static_cast<char16_t>(character))));
-    TypedTextChanged(QLineEdit::text());
+  if (character == platform::keys::kBackspace) {
+    backspace();
+  } else if (character >= 32) {
+    insert(QString::fromUcs4(&character, 1));
   }
 }
 
 void QtNumberEdit::TypedTextChanged(const QString& text) {
   raw_ = FromQString(text);
-  value_ = ParseValue(raw_);
+  value_ = CurrencyFromQString(text);
 }
 
 bool QtNumberEdit::event(QEvent* event) {
-  // In a grid, Tab ends the cell edit instead of moving the focus chain.
-  if (grid_ && event->type() == QEvent::KeyPress) {
+  if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
     auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+    // F2 and F4 belong to the field, not to an application shortcut.
+    if (event->type() == QEvent::ShortcutOverride && (key->key() == Qt::Key_F2 || key->key() == Qt::Key_F4)) {
+      event->accept();
+      return true;
+    }
+    // In a grid, Tab ends the cell edit instead of moving along the focus chain.
+    if (grid_ && event->type() == QEvent::KeyPress && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)) {
       keyPressEvent(key);
       return true;
     }
@@ -132,32 +162,27 @@ void QtNumberEdit::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (event->key() == Qt::Key_F4) return;
-  const bool ends_cell = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
-                         event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
-  if (grid_ && ends_cell) {
-    grid_->EndEditFromEditor(event);
+  if (IsCellEndingKey(event->key())) {
+    if (grid_) {
+      grid_->EndEditFromEditor(*event);
+    } else {
+      event->ignore();  // Enter belongs to the control's preview, Tab to the focus chain
+    }
     return;
   }
-  QString typed = event->text();
-  if (typed.size() == 1 && typed[0].isPrint()) {
-    char32_t key = typed[0].unicode();
-    if (grid_) {
+  if (grid_) {
+    // Typed characters pass the grid's key-press filter, which may replace or discard them.
+    const QList<uint> typed = event->text().toUcs4();
+    const bool backspace = event->key() == Qt::Key_Backspace;
+    if (backspace || (typed.size() == 1 && QChar::isPrint(typed[0]))) {
+      const char32_t key = backspace ? char32_t{platform::keys::kBackspace} : static_cast<char32_t>(typed[0]);
       platform::KeyPress press{key};
       grid_->FilterKey(press);
-      if (press.key == 0) return;
-      key = press.key;
+      if (press.key != key) {
+        TypeCharacter(press.key);
+        return;
+      }
     }
-    // The locale's decimal key types our point: a comma locale must not turn 12,50 into 1250.
-    if (QString(QChar(key)) == QLocale().decimalPoint()) key = U'.';
-    if (key != typed[0].unicode()) {
-      insert(QString(QChar(static_cast<char16_t>(key))));
-      TypedTextChanged(QLineEdit::text());
-      return;
-    }
-  }
-  if (!grid_ && ends_cell) {
-    event->ignore();  // leave Enter to the control's preview and Tab to the focus chain
-    return;
   }
   QLineEdit::keyPressEvent(event);
 }
@@ -167,9 +192,10 @@ void QtNumberEdit::focusInEvent(QFocusEvent* event) {
   showing_raw_ = true;
   Show();
   if (IsTransientFocusChange(event->reason())) return;
+  if (grid_) grid_->EditorGainingFocus(*this);
   selectAll();
   if (event->reason() == Qt::MouseFocusReason) {
-    // The press that gave the focus also places the caret; select after it.
+    // The press that gave the focus places the caret after this; select once it has.
     QTimer::singleShot(0, this, [this] {
       if (hasFocus()) selectAll();
     });
@@ -184,7 +210,6 @@ void QtNumberEdit::focusOutEvent(QFocusEvent* event) {
   showing_raw_ = false;
   Show();
   if (on_focus_lost_) on_focus_lost_();
-  Show();
 }
 
 }  // namespace zenta::qt

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <optional>
 
+#include "zenta/core/number_format.h"
 #include "zenta/platform/number_edit.h"
 #include "zenta/qt/toolkit/qt_widget_base.h"
 
@@ -10,12 +11,14 @@ namespace zenta::qt {
 
 class QtArrayGrid;
 
-// A money field on a QLineEdit, never on a spin box: the text is parsed as an exact Currency
-// with "." as the point whatever the locale (the locale's decimal key types "."). Typing obeys
-// the edit format (nine integer digits, two decimals, a leading "-"); away from the focus the
-// field shows the value through its display format. F2 clears the value; F4 does nothing (there
-// is no calculator to open). Focus-lost runs only when the user really leaves the field, not
-// when a message box or popup takes the focus for a moment.
+// A money field on a QLineEdit, never on a spin box: its text is parsed as an exact Currency with
+// "." as the point whatever the locale. Typing and pasting obey the edit format (nine integer
+// digits, two decimals, a leading "-"); the locale's decimal key types ".", and blanks, "$" and
+// grouping commas in pasted text are dropped. Away from the focus the field shows its value
+// through the display format; focused, it shows the text as typed, all selected on entry.
+// F2 clears the value. F4 does nothing: there is no calculator to drop down, and the key must
+// not reach a surrounding widget either. Focus-lost runs only when the user really leaves the
+// field, not when a message box, popup or another window takes the focus for a moment.
 class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit> {
  public:
   QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definition);
@@ -32,10 +35,13 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   void OnFocusGained(platform::Callback callback) override { on_focus_gained_ = std::move(callback); }
   void OnFocusLost(platform::Callback callback) override { on_focus_lost_ = std::move(callback); }
 
+  // The edit serves `grid` as its in-cell editor (nullptr: it no longer does).
   void AttachToGrid(QtArrayGrid* grid) { grid_ = grid; }
-  // Whether `text` fits the edit format.
-  bool FitsEditFormat(const QString& text) const;
-  // Types one character as the user would, through the edit format.
+  // `text` with pasted decorations dropped and the locale's point made "." (the caret at
+  // `position` kept among the characters that stay), if the result fits the edit format or at
+  // least shortens a longer text the program put there; nullopt when the edit is refused.
+  std::optional<QString> AcceptableEdit(const QString& text, int& position) const;
+  // Types one character that has passed every filter already, as at the caret.
   void TypeCharacter(char32_t character);
 
  protected:
@@ -45,12 +51,18 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  struct Counts {
+    int integer = 0;
+    int fraction = 0;
+    bool well_formed = true;
+  };
+  Counts CountDigits(const QString& text) const;
   void Show();
   void TypedTextChanged(const QString& text);
 
   std::optional<Currency> value_;
   std::string raw_;
-  std::string display_format_ = "########0.00;-########0.00;;0.00";
+  std::string display_format_{formats::kAmountDisplay};
   int integer_digits_ = 9;
   int decimals_ = 2;
   OleColor back_color_ = colors::kWindowBackground;

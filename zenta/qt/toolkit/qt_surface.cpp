@@ -1,7 +1,6 @@
 #include "zenta/qt/toolkit/qt_surface.h"
 
 #include <QApplication>
-#include <algorithm>
 #include <QKeyEvent>
 
 #include "zenta/qt/toolkit/key_mapping.h"
@@ -17,21 +16,21 @@ namespace zenta::qt {
 
 namespace {
 constexpr double kTwipsPerInch = 1440.0;
+// The layouts were drawn for an 8-point dialog font whose letters average about 5.6 pixels at
+// 96 DPI (measured over the alphabet, as dialog units are).
+constexpr double kDesignPointSize = 8.0;
+constexpr double kSmallestPointSize = 6.0;
+constexpr double kDesignLetterWidthAt96Dpi = 5.6;
+
+double AverageLetterWidth(const QFont& font) {
+  static const QString kAlphabet = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
+  return QFontMetricsF(font).horizontalAdvance(kAlphabet) / static_cast<double>(kAlphabet.size());
 }
+}  // namespace
 
 QtSurface::QtSurface(QWidget* parent) : QWidget(parent) {
-  QFont small = font();
-  small.setPointSize(8);  // the controls are laid out for an 8-point dialog font
-  setFont(small);
+  FitFont();
   SetBackColor(colors::kButtonFace);
-}
-
-double QtSurface::PixelsPerTwip() const {
-  // Twips become pixels through the screen's logical DPI. The layouts were drawn for an 8-point
-  // dialog font about 5 pixels a character wide at 96 DPI; a wider font widens them in step, so
-  // captions are not cut.
-  double font_scale = fontMetrics().averageCharWidth() / (5.0 * logicalDpiX() / 96.0);
-  return logicalDpiX() / kTwipsPerInch * std::clamp(font_scale, 1.0, 2.0);
 }
 
 QtSurface::~QtSurface() {
@@ -40,21 +39,52 @@ QtSurface::~QtSurface() {
   if (focused && isAncestorOf(focused)) focused->clearFocus();
 }
 
-int QtSurface::ToPixels(int twips) const { return qRound(twips * PixelsPerTwip()); }
-int QtSurface::ToTwips(int pixels) const { return qRound(pixels / PixelsPerTwip()); }
+void QtSurface::FitFont() {
+  QFont dialog = font();
+  const double widest = kDesignLetterWidthAt96Dpi * logicalDpiX() / 96.0;
+  for (double size = kDesignPointSize; size >= kSmallestPointSize; size -= 0.5) {
+    dialog.setPointSizeF(size);
+    if (AverageLetterWidth(dialog) <= widest) break;
+  }
+  setFont(dialog);
+}
+
+int QtSurface::ToPixels(int twips, Qt::Orientation axis) const {
+  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
+  return qRound(twips * dpi / kTwipsPerInch);
+}
+
+int QtSurface::ToTwips(int pixels, Qt::Orientation axis) const {
+  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
+  return qRound(pixels * kTwipsPerInch / dpi);
+}
 
 QRect QtSurface::PixelRect(const platform::TwipsRect& rect) const {
-  return QRect(ToPixels(rect.left), ToPixels(rect.top), ToPixels(rect.width), ToPixels(rect.height));
+  return QRect(ToPixels(rect.left, Qt::Horizontal), ToPixels(rect.top, Qt::Vertical),
+               ToPixels(rect.width, Qt::Horizontal), ToPixels(rect.height, Qt::Vertical));
+}
+
+void QtSurface::Track(platform::Widget& widget, QWidget& qwidget, const std::string& name) {
+  children_.push_back(&widget);
+  by_qwidget_[&qwidget] = &widget;
+  qwidget_by_name_[name] = &qwidget;
 }
 
 template <class W>
 W& QtSurface::Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target) {
   widget->setGeometry(PixelRect(definition.rect));
-  if (!definition.tab_stop && focus_target.focusPolicy() != Qt::NoFocus) focus_target.setFocusPolicy(Qt::ClickFocus);
   focus_target.installEventFilter(this);
-  children_.push_back(widget);
-  by_qwidget_[widget] = widget;
-  qwidget_by_name_[definition.name] = widget;
+  if (focus_target.focusPolicy() != Qt::NoFocus) {
+    if (!definition.tab_stop) {
+      // A composite forwards the focus to its editor: both must stay out of the tab chain.
+      widget->setFocusPolicy(Qt::ClickFocus);
+      focus_target.setFocusPolicy(Qt::ClickFocus);
+    } else {
+      if (last_tab_stop_) setTabOrder(last_tab_stop_, widget);
+      last_tab_stop_ = widget;
+    }
+  }
+  Track(*widget, *widget, definition.name);
   return *widget;
 }
 
@@ -80,7 +110,6 @@ platform::CheckBox& QtSurface::AddCheckBox(const platform::WidgetSpec& definitio
 
 platform::Label& QtSurface::AddLabel(const platform::WidgetSpec& definition, const std::string& caption) {
   auto* label = new QtLabel(this, definition, caption);
-  label->setFocusPolicy(Qt::NoFocus);
   return Register(label, definition, *label);
 }
 
@@ -90,12 +119,11 @@ platform::Grid& QtSurface::AddGrid(const platform::WidgetSpec& definition, int c
 }
 
 platform::NumberEdit& QtSurface::AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) {
+  // Only reachable through its grid: no place of its own in the tab order.
   auto* edit = new QtNumberEdit(this, definition);
   edit->setFocusPolicy(Qt::ClickFocus);
   edit->installEventFilter(this);
-  children_.push_back(edit);
-  by_qwidget_[edit] = edit;
-  qwidget_by_name_[definition.name] = edit;
+  Track(*edit, *edit, definition.name);
   grid.SetColumnEditor(column, edit);
   return *edit;
 }
@@ -112,9 +140,16 @@ platform::Widget* QtSurface::ActiveChild() const {
 void QtSurface::SetBackColor(OleColor color) {
   back_color_ = color;
   setAutoFillBackground(true);
+  if (std::optional<QPalette::ColorRole> role = PaletteRoleOf(color)) {
+    // A system colour is a palette role, so it follows the theme.
+    setPalette(QPalette());
+    setBackgroundRole(*role);
+    return;
+  }
   QPalette p = palette();
-  p.setColor(QPalette::Window, ToQColor(color, QPalette()));
+  p.setColor(QPalette::Window, ToQColor(color, p));
   setPalette(p);
+  setBackgroundRole(QPalette::Window);
 }
 
 platform::Widget* QtSurface::Find(const std::string& name) const {
@@ -131,7 +166,7 @@ QWidget* QtSurface::FindQWidget(const std::string& name) const {
 
 bool QtSurface::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && on_key_down_) {
-    // A key a child ignores travels on to its parents: preview it where it starts only.
+    // A key a child ignores travels on to its parents: preview it only where it starts.
     if (watched != QApplication::focusWidget()) return QWidget::eventFilter(watched, event);
     platform::KeyDown key = ToKeyDown(*static_cast<QKeyEvent*>(event));
     on_key_down_(key);

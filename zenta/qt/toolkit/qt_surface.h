@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <map>
 #include <vector>
@@ -9,8 +10,11 @@
 namespace zenta::qt {
 
 // A control's area as a QWidget. It creates the control's children at their twips rectangles
-// (through the screen's logical DPI), in tab order, previews every key they receive before
-// they do, and reports the focused child as the active one.
+// (twips become pixels through the screen's logical DPI) and chains them in tab order in the
+// order created; it previews every key they receive before they do, reports the focused child
+// as the active one, and paints its background in the control's OLE colour (a system colour
+// follows the palette). Its font is the 8-point dialog font the layouts were drawn for, made
+// smaller if the system's is wider, so that captions fit their rectangles.
 class QtSurface : public QWidget, public platform::ControlSurface {
  public:
   explicit QtSurface(QWidget* parent = nullptr);
@@ -32,22 +36,23 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   // The control's own state: a host disabling the window around it does not change it.
   bool Enabled() const override { return !testAttribute(Qt::WA_ForceDisabled); }
   void SetEnabled(bool enabled) override { setEnabled(enabled); }
-  int Width() const override { return ToTwips(width()); }
-  int Height() const override { return ToTwips(height()); }
-  void SetWidth(int twips) override { resize(ToPixels(twips), height()); }
-  void SetHeight(int twips) override { resize(width(), ToPixels(twips)); }
+  int Width() const override { return ToTwips(width(), Qt::Horizontal); }
+  int Height() const override { return ToTwips(height(), Qt::Vertical); }
+  void SetWidth(int twips) override { resize(ToPixels(twips, Qt::Horizontal), height()); }
+  void SetHeight(int twips) override { resize(width(), ToPixels(twips, Qt::Vertical)); }
   bool UserMode() const override { return user_mode_; }
 
   void OnKeyDown(std::function<void(platform::KeyDown&)> handler) override { on_key_down_ = std::move(handler); }
   void OnResize(platform::Callback callback) override { on_resize_ = std::move(callback); }
   void OnShown(platform::Callback callback) override { on_shown_ = std::move(callback); }
 
+  // False while a form designer hosts the control.
   void SetUserMode(bool user_mode) { user_mode_ = user_mode; }
   platform::Widget* Find(const std::string& name) const;
   QWidget* FindQWidget(const std::string& name) const;
-  int ToPixels(int twips) const;
-  int ToTwips(int pixels) const;
-  double PixelsPerTwip() const;
+  // px = twips * logical DPI / 1440, along either axis.
+  int ToPixels(int twips, Qt::Orientation axis = Qt::Horizontal) const;
+  int ToTwips(int pixels, Qt::Orientation axis = Qt::Horizontal) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -57,11 +62,14 @@ class QtSurface : public QWidget, public platform::ControlSurface {
  private:
   template <class W>
   W& Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target);
+  void Track(platform::Widget& widget, QWidget& qwidget, const std::string& name);
   QRect PixelRect(const platform::TwipsRect& rect) const;
+  void FitFont();
 
   std::vector<platform::Widget*> children_;
   std::map<const QWidget*, platform::Widget*> by_qwidget_;
   std::map<std::string, QWidget*> qwidget_by_name_;
+  QPointer<QWidget> last_tab_stop_;
   OleColor back_color_ = colors::kButtonFace;
   bool user_mode_ = true;
   bool shown_once_ = false;

@@ -4,7 +4,8 @@
 
 namespace zenta::qt {
 
-QtTextBox::QtTextBox(QWidget* parent, const platform::WidgetSpec& definition) : QLineEdit(parent), QtWidgetBase(*this, definition) {}
+QtTextBox::QtTextBox(QWidget* parent, const platform::WidgetSpec& definition)
+    : QLineEdit(parent), QtWidgetBase(*this, definition) {}
 
 void QtTextBox::SetBackColor(OleColor color) {
   back_color_ = color;
@@ -15,19 +16,29 @@ void QtTextBox::SetBackColor(OleColor color) {
 
 void QtTextBox::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  QString typed = event->text();
-  if (filter_ && (enter || (typed.size() == 1 && (typed[0].isPrint() || event->key() == Qt::Key_Backspace)))) {
-    char32_t key = enter ? 13 : event->key() == Qt::Key_Backspace ? 8 : typed[0].unicode();
+  const bool back = event->key() == Qt::Key_Backspace;
+  const QList<uint> typed = event->text().toUcs4();
+  const bool printable = typed.size() == 1 && QChar::isPrint(typed[0]);
+  char32_t key = enter ? char32_t{platform::keys::kEnter}
+                 : back ? char32_t{platform::keys::kBackspace}
+                 : printable ? static_cast<char32_t>(typed[0])
+                             : char32_t{0};
+  if (key != 0 && filter_) {
     platform::KeyPress press{key};
     filter_(press);
     if (press.key == 0) return;
-    if (press.key != key && press.key >= 32) {
-      insert(QString::fromUcs4(&press.key, 1));
-      return;
+    if (press.key != key) {
+      key = press.key;
+      if (key == platform::keys::kBackspace) {
+        backspace();
+      } else if (key >= 32 && key != 127) {
+        insert(QString::fromUcs4(&key, 1));
+      }
+      if (key != platform::keys::kEnter) return;
     }
   }
-  if (enter) {
-    event->ignore();  // a single-line box has no use for Enter: leave it to the form
+  if (key == platform::keys::kEnter) {
+    event->ignore();  // a single-line box has no use for Enter
     return;
   }
   QLineEdit::keyPressEvent(event);

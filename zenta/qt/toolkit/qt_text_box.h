@@ -8,8 +8,9 @@
 
 namespace zenta::qt {
 
-// A single-line text box whose typed characters pass the control's key-press filter, which may
-// replace or discard each one. Pasted text is taken as it is.
+// A single-line text box whose typed characters (Backspace and Enter included, as 8 and 13)
+// pass the control's key-press filter, which may replace or discard each one. Pasted text is
+// taken as it is. Enter is left to the control and the form around it.
 class QtTextBox : public QLineEdit, public QtWidgetBase<platform::TextBox> {
  public:
   QtTextBox(QWidget* parent, const platform::WidgetSpec& definition);

@@ -7,9 +7,11 @@
 
 namespace zenta::qt {
 
-// A control's persisted properties in a QSettings group. A value equal to its default is
-// removed rather than written, and a stored value is read back as the type of its default
-// (colours as 32-bit values, system colours included).
+// A control's persisted properties in a QSettings group, as readable text. A value equal to its
+// default is removed rather than written. A stored value is read back as the type of the
+// default it is read with; text that does not read as that type gives the default. 32-bit
+// integers are stored as their unsigned 32-bit value, so that colours read as colours
+// (0x8000000F is 2147483663, not a negative number); a signed value written by hand still reads.
 class SettingsPropertyBag : public platform::PropertyBag {
  public:
   SettingsPropertyBag(QSettings& settings, QString group) : settings_(settings), group_(std::move(group)) {}
