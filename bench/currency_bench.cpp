@@ -28,8 +28,12 @@ void BM_ParseAmount(benchmark::State& state) {
 BENCHMARK(BM_ParseAmount);
 
 void BM_FormatAmountForDisplay(benchmark::State& state) {
-  const Currency amount = Currency::FromText("-1234567.5");
-  for (auto _ : state) benchmark::DoNotOptimize(FormatNumber(amount, formats::kAmountDisplay));
+  const std::vector<Currency> amounts = {Currency::FromText("-1234567.5"), Currency::FromText("12.5"),
+                                         Currency(), Currency::FromText("0.125"), Currency::Max()};
+  std::size_t i = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(FormatNumber(amounts[i++ % amounts.size()], formats::kAmountDisplay));
+  }
 }
 BENCHMARK(BM_FormatAmountForDisplay);
 

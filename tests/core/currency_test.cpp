@@ -21,7 +21,7 @@ TEST(Currency, AddingOneCentAMillionTimesIsExact) {
   Currency total;
   const Currency cent = Currency::FromText("0.01");
   for (int i = 0; i < 1'000'000; ++i) total += cent;
-  EXPECT_EQ(total, Currency::FromInteger(10000));
+  EXPECT_EQ(total.Units(), 100'000'000);
   EXPECT_EQ(total.ToString(), "10000");
 }
 
@@ -62,8 +62,14 @@ INSTANTIATE_TEST_SUITE_P(Texts, CurrencyParse,
                                          ParseCase{"  7  ", 70000}, ParseCase{"+3", 30000},
                                          ParseCase{"0.00005", 0}, ParseCase{"0.00015", 2},
                                          ParseCase{"0.00025", 2}, ParseCase{"-0.00025", -2},
+                                         ParseCase{"\t7\t", 70000}, ParseCase{"000012.50", 125000},
                                          ParseCase{"922337203685477.5807", INT64_MAX},
-                                         ParseCase{"-922337203685477.5808", INT64_MIN}));
+                                         ParseCase{"-922337203685477.5808", INT64_MIN},
+                                         ParseCase{"-922337203685477.58085", INT64_MIN},
+                                         // A long tail just past an exact half still rounds up.
+                                         ParseCase{"0.000050000000000000000000000000000000000000001", 1},
+                                         ParseCase{"1.23450000000000000000000000000000000000000000000", 12345},
+                                         ParseCase{"0.00000000000000000000000000000000000000000000009", 0}));
 
 TEST(Currency, MalformedTextIsRefusedAndOversizedTextOverflows) {
   for (const char* bad : {"", "-", ".", "1.2.3", "12a", "1,234.56", "--1", " . "}) {
@@ -71,7 +77,9 @@ TEST(Currency, MalformedTextIsRefusedAndOversizedTextOverflows) {
   }
   EXPECT_EQ(ErrorNumberOf([] { (void)Currency::FromText("abc"); }), 13);
   EXPECT_EQ(ErrorNumberOf([] { (void)Currency::Parse("922337203685477.5808"); }), 6);
+  EXPECT_EQ(ErrorNumberOf([] { (void)Currency::Parse("-922337203685477.58086"); }), 6);
   EXPECT_EQ(ErrorNumberOf([] { (void)Currency::Parse("99999999999999999999999999999999999999999"); }), 6);
+  EXPECT_EQ(ErrorNumberOf([] { (void)Currency::Parse("\t-99999999999999999999999999999999999999999.5 "); }), 6);
 }
 
 TEST(Currency, FromDoubleRoundsTheWrittenDecimalHalfToEven) {
@@ -80,6 +88,11 @@ TEST(Currency, FromDoubleRoundsTheWrittenDecimalHalfToEven) {
   EXPECT_EQ(Currency::FromDouble(2.67515).Units(), 26752);
   EXPECT_EQ(Currency::FromDouble(-12.5).Units(), -125000);
   EXPECT_EQ(Currency::FromDouble(static_cast<double>(12.5f)).Units(), 125000);
+  EXPECT_EQ(Currency::FromDouble(0.00005).Units(), 0);
+  EXPECT_EQ(Currency::FromDouble(0.00015).Units(), 2);
+  // Binary 2.675 is 2.67499999...; the amount the host wrote is 2.675.
+  EXPECT_EQ(Currency::FromDouble(2.675).RoundedTo(2), Currency::FromText("2.68"));
+  EXPECT_EQ(Currency::FromDouble(2.665).RoundedTo(2), Currency::FromText("2.66"));
 }
 
 TEST(Currency, MultiplicationAndDivisionRoundHalfToEven) {

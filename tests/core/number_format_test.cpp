@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace zenta {
 namespace {
 
@@ -34,7 +36,18 @@ INSTANTIATE_TEST_SUITE_P(
                     FormatCase{"45.5", formats::kGovtAmountDisplay, "45.50"},
                     FormatCase{"1234567.5", "#,##0.00", "1,234,567.50"},
                     FormatCase{"12.5", formats::kAmountEdit, "12.5"},
-                    FormatCase{"0.5", formats::kAmountEdit, ".5"}));
+                    FormatCase{"0.5", formats::kAmountEdit, ".5"}, FormatCase{"0", "00", "00"},
+                    FormatCase{"-7", "00", "-07"}, FormatCase{"12.345", formats::kAmountTyping, "12.34"},
+                    FormatCase{"-1234.5", "#,##0.00", "-1,234.50"}, FormatCase{"999", "#,##0", "999"},
+                    FormatCase{"1234.5", "$#,##0.00 CAD", "$1,234.50 CAD"},
+                    FormatCase{"-5", "0.00;(0.00)", "(5.00)"},
+                    FormatCase{"0", "0.00;-0.00;nil", "nil"},
+                    // What rounds to zero shows as zero: no sign, the zero section.
+                    FormatCase{"-0.004", formats::kAmountDisplay, "0.00"},
+                    FormatCase{"-0.4", "0.00;-0", "0.00"}, FormatCase{"0.001", "0.00;;nil", "nil"},
+                    FormatCase{"-0.005", "0.00", "0.00"}, FormatCase{"-0.0051", "0.00", "-0.01"},
+                    FormatCase{"922337203685477.5807", formats::kTotal, "922337203685477.58"},
+                    FormatCase{"-922337203685477.5808", formats::kAmountDisplay, "-922337203685477.58"}));
 
 TEST(NumberFormat, NullUsesTheFourthSectionOrNothing) {
   EXPECT_EQ(FormatNullable(std::nullopt, formats::kAmountDisplay), "0.00");
@@ -47,14 +60,22 @@ TEST(NumberFormat, DoublesFormatAsWrittenNotAsTheirBinaryNeighbour) {
   EXPECT_EQ(FormatNumber(2.675, formats::kTotal), "2.68");  // binary 2.67499999...
   EXPECT_EQ(FormatNumber(2.665, formats::kTotal), "2.66");
   EXPECT_EQ(FormatNumber(-1e-9, formats::kTotal), "0.00");
+  EXPECT_EQ(FormatNumber(0.1, "0.00000000000000000000"), "0.10000000000000000000");
+  EXPECT_EQ(FormatNumber(1e20, formats::kTotal), "100000000000000000000.00");
+  EXPECT_EQ(FormatNumber(123456789012345.67, "0.000000000000000000000000"),
+            "123456789012345.670000000000000000000000");
+  EXPECT_EQ(FormatNumber(std::nan(""), formats::kTotal), "NaN");
 }
 
 TEST(RoundHalfEven, SendsAnExactHalfToTheEvenDigit) {
-  EXPECT_DOUBLE_EQ(RoundHalfEven(123.455, 2), 123.46);
-  EXPECT_DOUBLE_EQ(RoundHalfEven(123.465, 2), 123.46);
-  EXPECT_DOUBLE_EQ(RoundHalfEven(-0.125, 2), -0.12);
-  EXPECT_DOUBLE_EQ(RoundHalfEven(100 * 1.234567, 2), 123.46);
-  EXPECT_DOUBLE_EQ(RoundHalfEven(2.5, 0), 2.0);
+  EXPECT_EQ(RoundHalfEven(123.455, 2), 123.46);
+  EXPECT_EQ(RoundHalfEven(123.465, 2), 123.46);
+  EXPECT_EQ(RoundHalfEven(2.675, 2), 2.68);
+  EXPECT_EQ(RoundHalfEven(2.665, 2), 2.66);
+  EXPECT_EQ(RoundHalfEven(-0.125, 2), -0.12);
+  EXPECT_EQ(RoundHalfEven(100 * 1.234567, 2), 123.46);
+  EXPECT_EQ(RoundHalfEven(2.5, 0), 2.0);
+  EXPECT_EQ(RoundHalfEven(3.5, 0), 4.0);
 }
 
 }  // namespace

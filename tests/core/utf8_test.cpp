@@ -11,6 +11,8 @@ TEST(Utf8, CountsCodePointsNotBytes) {
   EXPECT_EQ(Length("€1"), 2u);
   EXPECT_EQ(Length("\xF0\x9F\x92\xB5"), 1u);  // a four-byte character
   EXPECT_EQ(Left("Québec", 3), "Qué");
+  EXPECT_EQ(Left("\xF0\x9F\x92\xB5x", 1), "\xF0\x9F\x92\xB5");  // never cuts a character
+  EXPECT_EQ(Left("ab", 5), "ab");
 }
 
 TEST(Utf8, MalformedBytesBecomeReplacementCharactersOneEach) {
@@ -19,6 +21,28 @@ TEST(Utf8, MalformedBytesBecomeReplacementCharactersOneEach) {
   EXPECT_EQ(Decode("\xE2\x82"), (std::u32string{0xFFFD, 0xFFFD}));  // truncated
   EXPECT_EQ(Encode(Decode("Montréal €")), "Montréal €");
 }
+
+struct MalformedCase {
+  const char* bytes;
+  std::size_t length;
+};
+
+class Utf8Malformed : public testing::TestWithParam<MalformedCase> {};
+
+TEST_P(Utf8Malformed, EveryBadByteCountsAsOneReplacement) {
+  const std::u32string decoded = Decode(GetParam().bytes);
+  EXPECT_EQ(decoded, std::u32string(GetParam().length, 0xFFFD));
+  EXPECT_EQ(Length(GetParam().bytes), GetParam().length);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sequences, Utf8Malformed,
+                         testing::Values(MalformedCase{"\xC0\xAF", 2},          // overlong "/"
+                                         MalformedCase{"\xE0\x80\xAF", 3},      // overlong, three bytes
+                                         MalformedCase{"\xED\xA0\x80", 3},      // a surrogate
+                                         MalformedCase{"\xF4\x90\x80\x80", 4},  // past U+10FFFF
+                                         MalformedCase{"\xF8\x88\x80", 3},      // no such lead byte
+                                         MalformedCase{"\xFF\x80\x80", 3},
+                                         MalformedCase{"\x80\xBF", 2}));       // stray continuations
 
 TEST(Utf8, UpperCasesAsciiOnlyAndTrimsBlanks) {
   EXPECT_EQ(ToUpperAscii("abc-12é"), "ABC-12é");

@@ -191,26 +191,6 @@ class ControlsTest : public QObject {
     QCOMPARE(remittance.property("Amount").value<Currency>(), Currency::FromText("12.5"));
   }
 
-  void destroyingAControlWithTheFocusInsideIsSafe() {
-    auto* payment = Place<StdPayment>();
-    QVERIFY(payment);
-    payment->SetFocusPaymentAmount();
-    Type("12");
-    delete payment;  // the amount's focus-lost runs during this, on a whole control
-    QCoreApplication::processEvents();
-    after_->setFocus();
-    QVERIFY(after_->hasFocus());
-  }
-
-  void disablingTheWindowLeavesTheControlsOwnState() {
-    auto* payment = Place<StdPayment>();
-    QVERIFY(payment);
-    window_->setEnabled(false);
-    QVERIFY(payment->Enabled());
-    payment->SetEnabled(false);
-    QVERIFY(!payment->Enabled());
-  }
-
   void theScreenRenders() {
     auto* invoice = Place<PmtDetails>();
     QVERIFY(invoice);

@@ -50,11 +50,27 @@ TEST(clsDistributions, DuplicateKeyIsRefusedAndNotAdded) {
 
 TEST(clsDistributions, AddReturnsTheHeldElementWithItsIdAsGiven) {
   clsDistributions lines;
-  auto text_id = lines.Add(Variant("A-7"), "5100", Currency::FromText("12.34"));
-  auto empty_id = lines.Add(Variant(), "5200", Currency());
-  EXPECT_EQ(lines.Item(1), text_id);
-  EXPECT_EQ(text_id->ID, Variant("A-7"));
-  EXPECT_TRUE(empty_id->ID.IsEmpty());
+  auto owner = std::make_shared<clsInvoice>();
+  const Variant ids[] = {Variant("A-7"), Variant(), Variant(std::int16_t{7}), Variant(2.5), Variant::Null(),
+                         Variant(owner)};
+  for (const Variant& id : ids) lines.Add(id, "5100", Currency::FromText("12.34"));
+  for (std::int32_t i = 1; i <= lines.Count(); ++i) {
+    EXPECT_EQ(lines.Item(i)->ID, ids[i - 1]) << i;  // same type, same value, same object
+  }
+  EXPECT_EQ(lines.Item(6)->ID.ToObjectOf<clsInvoice>(), owner);
+  auto added = lines.Add(Variant(), "5200", Currency());
+  EXPECT_EQ(lines.Item(7), added);
+}
+
+TEST(clsDistributions, NumbersArePositionsAndTextsAreKeys) {
+  auto lines = ThreeLines();
+  EXPECT_EQ(lines.Item(2.0)->GLAccount, "5200");
+  EXPECT_EQ(lines.Item(Currency::FromInteger(3))->GLAccount, "5300");
+  EXPECT_EQ(lines.Item(std::int16_t{1})->GLAccount, "5100");
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Item("2"); }), 9);  // no element has the key "2"
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Item(Variant()); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Item(Variant::Null()); }), 9);
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Item(1e12); }), 9);
 }
 
 TEST(clsDistributions, ElementsOutliveTheCollectionWhileHeld) {
@@ -77,6 +93,9 @@ TEST(clsDistributions, ClearCountsInSixteenBits) {
   for (int i = 0; i < 32768; ++i) lines.Add(Variant(), "1", Currency());
   EXPECT_EQ(ErrorNumberOf([&] { lines.Clear(); }), 6);
   EXPECT_EQ(lines.Count(), 32768);
+  lines.Remove(32768);
+  lines.Clear();
+  EXPECT_EQ(lines.Count(), 0);
 }
 
 TEST(clsDistributions, IteratesInPositionOrder) {

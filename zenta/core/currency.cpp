@@ -50,21 +50,7 @@ Currency Currency::FromDouble(double value) {
 
 std::optional<Currency> Currency::Parse(std::string_view text) {
   auto decimal = detail::ParseDecimal(text);
-  if (!decimal) {
-    // Well-formed but with more integer digits than any decimal we hold: still an overflow.
-    std::string_view trimmed = text;
-    while (!trimmed.empty() && trimmed.front() == ' ') trimmed.remove_prefix(1);
-    while (!trimmed.empty() && trimmed.back() == ' ') trimmed.remove_suffix(1);
-    if (!trimmed.empty() && (trimmed.front() == '-' || trimmed.front() == '+')) trimmed.remove_prefix(1);
-    bool digits_only = !trimmed.empty();
-    int points = 0;
-    for (char c : trimmed) {
-      if (c == '.') ++points;
-      else if (c < '0' || c > '9') digits_only = false;
-    }
-    if (digits_only && points <= 1 && trimmed != ".") throw HostError::Overflow(kSource);
-    return std::nullopt;
-  }
+  if (!decimal) return std::nullopt;
   return FromScaledDecimal(detail::Rescale(*decimal, 4));
 }
 
@@ -125,12 +111,14 @@ Currency Currency::DividedBy(double divisor) const {
   Int128 numerator = units_;
   Int128 denominator = static_cast<Int128>(d.digits);
   if (d.scale >= 0) {
-    if (d.scale > 38 || __builtin_mul_overflow(numerator, static_cast<Int128>(detail::PowerOfTen(d.scale)), &numerator)) {
+    auto power = static_cast<Int128>(detail::PowerOfTen(d.scale));
+    if (d.scale > 38 || __builtin_mul_overflow(numerator, power, &numerator)) {
       if (units_ == 0) return Currency();
       throw HostError::Overflow(kSource);
     }
   } else {
-    if (-d.scale > 38 || __builtin_mul_overflow(denominator, static_cast<Int128>(detail::PowerOfTen(-d.scale)), &denominator)) {
+    auto power = static_cast<Int128>(detail::PowerOfTen(-d.scale));
+    if (-d.scale > 38 || __builtin_mul_overflow(denominator, power, &denominator)) {
       return Currency();  // dividing by something astronomically large
     }
   }

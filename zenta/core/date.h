@@ -32,11 +32,12 @@ class Date {
   // "yyyy/mm/dd".
   std::string ToText() const;
 
+  // Date arithmetic raises HostError::Overflow when the result leaves years 100 to 9999.
   Date AddDays(std::int32_t days) const;
   // Same day in a later or earlier year; 29 February becomes 28 February in a common year.
   Date AddYears(int years) const;
   // Calendar days from this date to `later` (negative when `later` is earlier).
-  std::int32_t DaysUntil(Date later) const { return later.day_ - day_; }
+  std::int32_t DaysUntil(Date later) const;
 
   friend constexpr bool operator==(Date, Date) = default;
   friend constexpr auto operator<=>(Date, Date) = default;

@@ -9,6 +9,10 @@ namespace zenta::detail {
 
 namespace {
 constexpr int kMaxPower = 38;
+// Digits read from text; one more (the sticky digit) still fits below 10^38.
+constexpr int kKeptDigits = kMaxPower - 1;
+// Bounds the scale of absurdly long texts so it never wraps; such numbers round to 0 or overflow.
+constexpr int kScaleLimit = 1 << 20;
 }  // namespace
 
 UInt128 PowerOfTen(int n) {
@@ -66,6 +70,7 @@ std::optional<Decimal> ParseDecimal(std::string_view text) {
   }
   bool any_digit = false;
   bool after_point = false;
+  bool dropped_nonzero = false;
   int significant = 0;
   for (; pos < text.size(); ++pos) {
     char c = text[pos];
@@ -76,18 +81,26 @@ std::optional<Decimal> ParseDecimal(std::string_view text) {
     }
     if (c < '0' || c > '9') return std::nullopt;
     any_digit = true;
-    if (result.digits == 0 && c == '0' && !after_point) continue;  // leading zeros
-    if (significant >= kMaxPower - 1) {
-      // Digits past what fits: before the point they make the number too large; after it they
-      // cannot change a rounded result beyond the 37th digit, so they are dropped.
-      if (!after_point) return std::nullopt;
+    if (significant < kKeptDigits) {
+      if (after_point && result.scale >= kScaleLimit) {
+        dropped_nonzero = dropped_nonzero || c != '0';  // far below anything a caller rounds to
+        continue;
+      }
+      result.digits = result.digits * 10 + static_cast<unsigned>(c - '0');
+      if (result.digits != 0) ++significant;
+      if (after_point) ++result.scale;
       continue;
     }
-    result.digits = result.digits * 10 + static_cast<unsigned>(c - '0');
-    if (result.digits != 0) ++significant;
-    if (after_point) ++result.scale;
+    // Past the kept digits an integer digit still multiplies the number by ten, and a dropped
+    // non-zero digit must not let a rounding see an exact half that is not there.
+    if (!after_point && result.scale > -kScaleLimit) --result.scale;
+    if (c != '0') dropped_nonzero = true;
   }
   if (!any_digit) return std::nullopt;
+  if (dropped_nonzero) {
+    result.digits = result.digits * 10 + 1;
+    ++result.scale;
+  }
   if (result.digits == 0) result.negative = false;
   return result;
 }

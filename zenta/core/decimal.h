@@ -21,8 +21,9 @@ struct Decimal {
 // neighbour). nullopt for NaN and infinities.
 std::optional<Decimal> DecimalFromDouble(double value);
 
-// Invariant text: blanks, optional sign, digits, optional "." and digits. nullopt otherwise, or
-// when the digits do not fit.
+// Invariant text: blanks, optional sign, digits, optional "." and digits; nullopt otherwise.
+// Digits past the 37th significant one are summarised, so any length of text reads and rounds
+// correctly; a number too large for a caller fails in Rescale.
 std::optional<Decimal> ParseDecimal(std::string_view text);
 
 // `value` rescaled to `scale` decimals, half to even. nullopt when it does not fit.

@@ -77,14 +77,25 @@ std::string DigitsOf(UInt128 value) {
   return out;
 }
 
-// The magnitude of `value` (already rounded to s.max_decimals) laid out by the section.
-std::string LayOut(const Decimal& value, const Section& s) {
-  std::string digits = DigitsOf(value.digits);
-  auto decimals = static_cast<std::size_t>(value.scale);
+// The magnitude of `value` as digits with exactly `places` of them decimals, half to even.
+// Padding with zeros as text keeps wide patterns from overflowing the 128-bit digits.
+std::string FixedDigits(const Decimal& value, int places) {
+  if (value.scale < places) {
+    return DigitsOf(value.digits) + std::string(static_cast<std::size_t>(places - value.scale), '0');
+  }
+  auto rounded = detail::Rescale(value, places);  // only drops digits, so it always fits
+  return rounded ? DigitsOf(rounded->digits) : std::string("0");
+}
+
+bool AllZeros(std::string_view digits) { return digits.find_first_not_of('0') == std::string_view::npos; }
+
+// `digits` (the magnitude with s.max_decimals decimals) laid out by the section.
+std::string LayOut(std::string digits, const Section& s) {
+  auto decimals = static_cast<std::size_t>(s.max_decimals);
   if (digits.size() <= decimals) digits = std::string(decimals - digits.size() + 1, '0') + digits;
   std::string integer = digits.substr(0, digits.size() - decimals);
   std::string fraction = digits.substr(digits.size() - decimals);
-  while (fraction.size() > static_cast<std::size_t>(s.required_decimals) && !fraction.empty() && fraction.back() == '0') {
+  while (fraction.size() > static_cast<std::size_t>(s.required_decimals) && fraction.back() == '0') {
     fraction.pop_back();
   }
   std::size_t first_nonzero = integer.find_first_not_of('0');
@@ -105,22 +116,20 @@ std::string LayOut(const Decimal& value, const Section& s) {
   return out + s.suffix;
 }
 
-std::string Format(const Decimal* value, std::string_view pattern) {
+// A value that rounds to zero in its section is shown as zero: no sign, and by the zero section
+// when there is one, so a payer never sees "-0.00".
+std::string Format(const Decimal& value, std::string_view pattern) {
   auto sections = SplitSections(pattern);
-  Section positive = ParseSection(sections[0]);
-  Decimal rounded = detail::Rescale(*value, positive.max_decimals).value_or(Decimal{});
-  if (value->negative && sections.size() > 1 && !sections[1].empty()) {
-    Section negative = ParseSection(sections[1]);
-    rounded = detail::Rescale(*value, negative.max_decimals).value_or(Decimal{});
-    if (rounded.digits != 0) return LayOut(rounded, negative);
+  auto given = [&](std::size_t i) { return i < sections.size() && !sections[i].empty(); };
+  const bool own_negative = value.negative && given(1);
+  Section section = ParseSection(sections[own_negative ? 1 : 0]);
+  std::string digits = FixedDigits(value, section.max_decimals);
+  if (AllZeros(digits)) {
+    Section zero = ParseSection(sections[given(2) ? 2 : 0]);
+    return LayOut(std::string(static_cast<std::size_t>(zero.max_decimals) + 1, '0'), zero);
   }
-  if (value->digits == 0 && sections.size() > 2 && !sections[2].empty()) {
-    Section zero = ParseSection(sections[2]);
-    return LayOut(detail::Rescale(*value, zero.max_decimals).value_or(Decimal{}), zero);
-  }
-  std::string text = LayOut(rounded, positive);
-  if (value->negative && rounded.digits != 0) return "-" + text;
-  return text;
+  std::string text = LayOut(std::move(digits), section);
+  return value.negative && !own_negative ? "-" + text : text;
 }
 
 Decimal DecimalOf(Currency value) {
@@ -133,21 +142,12 @@ Decimal DecimalOf(Currency value) {
 }
 }  // namespace
 
-std::string FormatNumber(Currency value, std::string_view pattern) {
-  Decimal decimal = DecimalOf(value);
-  return Format(&decimal, pattern);
-}
+std::string FormatNumber(Currency value, std::string_view pattern) { return Format(DecimalOf(value), pattern); }
 
 std::string FormatNumber(double value, std::string_view pattern) {
   auto decimal = detail::DecimalFromDouble(value);
   if (!decimal) return std::isnan(value) ? "NaN" : (value > 0 ? "Infinity" : "-Infinity");
-  if (decimal->scale < -14) {
-    // Astronomically large: no money pattern can lay it out digit by digit.
-    char buffer[64];
-    auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value);
-    return std::string(buffer, ec == std::errc() ? end : buffer);
-  }
-  return Format(&*decimal, pattern);
+  return Format(*decimal, pattern);
 }
 
 std::string FormatNullable(const std::optional<Currency>& value, std::string_view pattern) {

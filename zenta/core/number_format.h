@@ -13,7 +13,8 @@ namespace zenta {
 // point (always "."), "," thousands grouping; other characters are copied. A missing or empty
 // negative section formats the absolute value with the positive section after a "-"; a missing
 // or empty zero section uses the positive section; the null section is used only by
-// FormatNullable (empty text when absent). Decimals are rounded half to even.
+// FormatNullable (empty text when absent). Decimals are rounded half to even; a value that
+// rounds to zero in its section is formatted as zero (no sign, the zero section if given).
 // Examples: ("########0.00", 12.5) -> "12.50"; ("###0.000000", 1.234567) -> "1.234567";
 // ("00", 7) -> "07"; ("########0.00;-########0.00;;0.00", -3) -> "-3.00".
 std::string FormatNumber(Currency value, std::string_view pattern);

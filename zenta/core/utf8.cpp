@@ -13,7 +13,11 @@ char32_t Next(std::string_view text, std::size_t& pos) {
     ++pos;
     return lead;
   }
-  int length = lead >= 0xF0 && lead <= 0xF4 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 && lead < 0xE0 ? 2 : 0;
+  // C0, C1 and F5 to FF never start a sequence.
+  int length = 0;
+  if (lead >= 0xC2 && lead <= 0xDF) length = 2;
+  else if (lead >= 0xE0 && lead <= 0xEF) length = 3;
+  else if (lead >= 0xF0 && lead <= 0xF4) length = 4;
   if (length == 0 || pos + static_cast<std::size_t>(length) > text.size()) {
     ++pos;
     return kReplacement;

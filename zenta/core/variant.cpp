@@ -1,7 +1,10 @@
 #include "zenta/core/variant.h"
 
+#include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <string_view>
 
 #include "zenta/core/host_error.h"
 
@@ -29,6 +32,71 @@ Int RangeChecked(Currency value) {
   }
   return static_cast<Int>(integer);
 }
+
+// Number text as hosts write it, independent of the C locale (a Qt program on a French-Canadian
+// desktop would otherwise read "12.5" as 12): blanks, sign, digits with one ".", an optional
+// exponent. nullopt for anything else; Overflow past the double range, 0 below it.
+std::optional<double> ReadNumber(std::string_view text) {
+  while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
+  while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
+  bool negative = false;
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
+    negative = text.front() == '-';
+    text.remove_prefix(1);
+  }
+  auto digit = [](char c) { return c >= '0' && c <= '9'; };
+  std::size_t pos = 0;
+  while (pos < text.size() && digit(text[pos])) ++pos;
+  const std::size_t integer_digits = pos;
+  std::size_t fraction_digits = 0;
+  if (pos < text.size() && text[pos] == '.') {
+    for (++pos; pos < text.size() && digit(text[pos]); ++pos) ++fraction_digits;
+  }
+  if (integer_digits + fraction_digits == 0) return std::nullopt;
+  const std::size_t mantissa_end = pos;
+  long exponent = 0;
+  if (pos < text.size() && (text[pos] == 'e' || text[pos] == 'E')) {
+    ++pos;
+    bool negative_exponent = pos < text.size() && text[pos] == '-';
+    if (pos < text.size() && (text[pos] == '-' || text[pos] == '+')) ++pos;
+    std::size_t exponent_start = pos;
+    for (; pos < text.size() && digit(text[pos]); ++pos) {
+      if (exponent < 100000) exponent = exponent * 10 + (text[pos] - '0');
+    }
+    if (pos == exponent_start) return std::nullopt;
+    if (negative_exponent) exponent = -exponent;
+  }
+  if (pos != text.size()) return std::nullopt;
+  double value = 0;
+  auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (ec == std::errc::result_out_of_range) {
+    // Too large or too small for a double: the decimal exponent of the first significant digit
+    // tells which.
+    std::string_view mantissa = text.substr(0, mantissa_end);
+    std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos) return negative ? -0.0 : 0.0;
+    long magnitude = first < integer_digits ? static_cast<long>(integer_digits - first) - 1
+                                            : -static_cast<long>(first - integer_digits);
+    if (magnitude + exponent >= 0) throw HostError::Overflow(kSource);
+    value = 0;
+  } else if (ec != std::errc() || end != text.data() + text.size()) {
+    return std::nullopt;
+  }
+  return negative ? -value : value;
+}
+
+// Shortest text that reads back as the same value; automation writes the exponent as "E+20".
+template <class Floating>
+std::string ShortestText(Floating value, std::chars_format format) {
+  char buffer[400];
+  auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value, format);
+  std::string text(buffer, ec == std::errc() ? end : buffer);
+  for (char& c : text) {
+    if (c == 'e') c = 'E';
+  }
+  return text;
+}
+
 }  // namespace
 
 void Variant::ThrowTypeMismatch() { throw HostError::TypeMismatch(kSource); }
@@ -46,9 +114,9 @@ bool Variant::IsNumeric() const {
       return true;
     case Type::String:
       try {
-        return Currency::Parse(std::get<std::string>(value_)).has_value();
+        return ReadNumber(std::get<std::string>(value_)).has_value();
       } catch (const HostError&) {
-        return true;  // a number, only too large for currency
+        return true;  // a number, only too large for a double
       }
     default:
       return false;
@@ -67,12 +135,9 @@ double Variant::ToDouble() const {
     case Type::Currency: return std::get<zenta::Currency>(value_).ToDouble();
     case Type::Date: return std::get<zenta::Date>(value_).DayNumber();
     case Type::String: {
-      const auto& text = std::get<std::string>(value_);
-      char* end = nullptr;
-      double result = std::strtod(text.c_str(), &end);
-      while (end && *end == ' ') ++end;
-      if (text.empty() || !end || *end != '\0') ThrowTypeMismatch();
-      return result;
+      auto number = ReadNumber(std::get<std::string>(value_));
+      if (!number) ThrowTypeMismatch();
+      return *number;
     }
     case Type::Object: ThrowTypeMismatch();
   }
@@ -86,11 +151,22 @@ zenta::Currency Variant::ToCurrency() const {
     case Type::Boolean: return std::get<bool>(value_) ? zenta::Currency::FromInteger(-1) : zenta::Currency();
     case Type::Integer: return zenta::Currency::FromInteger(std::get<std::int16_t>(value_));
     case Type::Long: return zenta::Currency::FromInteger(std::get<std::int32_t>(value_));
-    case Type::Single: return zenta::Currency::FromDouble(static_cast<double>(std::get<float>(value_)));
+    case Type::Single: {
+      // The float's own shortest digits, so 0.1f is 0.1 and not 0.100000001490116.
+      float value = std::get<float>(value_);
+      if (!std::isfinite(value)) throw HostError::Overflow(kSource);
+      return zenta::Currency::FromText(ShortestText(value, std::chars_format::fixed));
+    }
     case Type::Double: return zenta::Currency::FromDouble(std::get<double>(value_));
     case Type::Currency: return std::get<zenta::Currency>(value_);
     case Type::Date: return zenta::Currency::FromInteger(std::get<zenta::Date>(value_).DayNumber());
-    case Type::String: return zenta::Currency::FromText(std::get<std::string>(value_));
+    case Type::String: {
+      const auto& text = std::get<std::string>(value_);
+      if (auto exact = zenta::Currency::Parse(text)) return *exact;
+      auto number = ReadNumber(text);  // "1.5E3" and the like
+      if (!number) ThrowTypeMismatch();
+      return zenta::Currency::FromDouble(*number);
+    }
     case Type::Object: ThrowTypeMismatch();
   }
   ThrowTypeMismatch();
@@ -141,7 +217,12 @@ zenta::Date Variant::ToDate() const {
       return *date;
     }
     case Type::Object: ThrowTypeMismatch();
-    default: return zenta::Date::FromDayNumber(ToLong());
+    default: {
+      // A number's whole part is the day; its fraction would be the time of day.
+      double day = std::trunc(ToDouble());
+      if (!(std::fabs(day) <= std::numeric_limits<std::int32_t>::max())) throw HostError::Overflow(kSource);
+      return zenta::Date().AddDays(static_cast<std::int32_t>(day));  // checks the year range
+    }
   }
 }
 
@@ -152,19 +233,8 @@ std::string Variant::ToString() const {
     case Type::Boolean: return std::get<bool>(value_) ? "True" : "False";
     case Type::Integer: return std::to_string(std::get<std::int16_t>(value_));
     case Type::Long: return std::to_string(std::get<std::int32_t>(value_));
-    case Type::Single:
-    case Type::Double: {
-      double value = ToDouble();
-      // Shortest text that reads back the same, without exponent for everyday magnitudes.
-      if (std::fabs(value) < 1e15) {
-        try {
-          return zenta::Currency::FromDouble(value).ToDouble() == value ? zenta::Currency::FromDouble(value).ToString()
-                                                                        : std::to_string(value);
-        } catch (const HostError&) {
-        }
-      }
-      return std::to_string(value);
-    }
+    case Type::Single: return ShortestText(std::get<float>(value_), std::chars_format::general);
+    case Type::Double: return ShortestText(std::get<double>(value_), std::chars_format::general);
     case Type::Currency: return std::get<zenta::Currency>(value_).ToString();
     case Type::Date: return std::get<zenta::Date>(value_).ToText();
     case Type::String: return std::get<std::string>(value_);
