@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "zenta/core/date.h"
+#include "zenta/platform/container_metrics.h"
 #include "zenta/platform/message_box.h"
 #include "zenta/platform/raised_event.h"
 
@@ -19,6 +21,13 @@ class HostServices {
   virtual void InjectKeys(const std::string& keys) = 0;
   virtual void RaiseEvent(RaisedEvent& event) = 0;
   virtual MessageResult ShowMessage(const MessageBox& box) = 0;
+
+  // Runs `action` after the notification being handled has returned, in the order posted.
+  virtual void Post(std::function<void()> action) = 0;
+  // The sound of a refused key.
+  virtual void Beep() = 0;
+  // Where the control sits on the host's screen, for placing a window next to it.
+  virtual ContainerMetrics Container() const = 0;
 
   // Seams that make behaviour reproducible.
   virtual Date Today() const = 0;

@@ -41,6 +41,9 @@ class Widget {
   // Moves the focus here. Toolkits ignore it for a disabled or hidden widget.
   virtual void SetFocus() = 0;
   virtual bool HasFocus() const = 0;
+  // Placement inside the control or dialog, in twips.
+  virtual TwipsRect Rect() const = 0;
+  virtual void SetRect(const TwipsRect& rect) = 0;
 };
 
 }  // namespace zenta::platform
