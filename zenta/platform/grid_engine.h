@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
@@ -170,8 +171,21 @@ class GridEngine {
   void FocusLost();
 
  private:
-  struct Alive;
-  // ... the implementation's private members; see grid_engine.cpp.
+  bool CellEditable(int column) const;
+  bool StopsAt(int column) const;
+  std::string ValueText(const Variant& value) const;
+  // Moves the current cell: ends an open edit, stores the row when it changes, raises
+  // row_col_change once.
+  bool MoveTo(int row, int column);
+  bool OpenEdit(char32_t key);
+  void CloseEdit();
+  void InsertIntoEdit(char32_t key);
+  void Navigate(platform::KeyDown& key);
+  void MoveAcross(platform::KeyDown& key, int step);
+  void ReportError(const std::exception& error, int number);
+  // Whether the engine is still alive after a handler ran (a handler may destroy the grid).
+  bool Survived(const std::weak_ptr<bool>& token) const { return !token.expired(); }
+
   GridView& view_;
   GridHandlers handlers_;
   std::vector<GridColumn> columns_;
@@ -188,6 +202,12 @@ class GridEngine {
   std::string edit_text_;
   int selection_start_ = 0;
   int selection_length_ = 0;
+  // Re-entrancy: a commit in progress, a column asked for from inside before_col_update, and a
+  // count of current-cell moves so a key can tell that a handler already moved the cell.
+  bool in_col_update_ = false;
+  bool in_row_update_ = false;
+  std::optional<int> requested_column_;
+  unsigned moves_ = 0;
   std::shared_ptr<bool> alive_;
 };
 

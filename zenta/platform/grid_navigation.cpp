@@ -2,18 +2,45 @@
 
 namespace zenta::platform {
 
+namespace {
+std::optional<int> NextStop(const std::vector<bool>& stops, int after) {
+  for (int c = after + 1; c < static_cast<int>(stops.size()); ++c) {
+    if (stops[static_cast<std::size_t>(c)]) return c;
+  }
+  return std::nullopt;
+}
+
+std::optional<int> PreviousStop(const std::vector<bool>& stops, int before) {
+  for (int c = before - 1; c >= 0; --c) {
+    if (stops[static_cast<std::size_t>(c)]) return c;
+  }
+  return std::nullopt;
+}
+}  // namespace
+
 std::optional<GridCell> NextGridCell(GridCell from, int first_row, int last_row, int columns, const KeyDown& key) {
+  return NextGridCell(from, first_row, last_row, std::vector<bool>(static_cast<std::size_t>(columns > 0 ? columns : 0), true),
+                      key);
+}
+
+std::optional<GridCell> NextGridCell(GridCell from, int first_row, int last_row, const std::vector<bool>& stops,
+                                     const KeyDown& key) {
   if (key.key_code == keys::kUp) return GridCell{from.row > first_row ? from.row - 1 : from.row, from.column};
   if (key.key_code == keys::kDown) return GridCell{from.row < last_row ? from.row + 1 : from.row, from.column};
   if (key.key_code != keys::kEnter && key.key_code != keys::kTab) return std::nullopt;
   const bool tab = key.key_code == keys::kTab;
+  const int width = static_cast<int>(stops.size());
   if ((key.shift & kShift) != 0) {
-    if (from.column > 0) return GridCell{from.row, from.column - 1};
-    if (from.row > first_row) return GridCell{from.row - 1, columns - 1};
-    return tab ? std::nullopt : std::optional<GridCell>(from);
+    if (auto column = PreviousStop(stops, from.column)) return GridCell{from.row, *column};
+    if (from.row > first_row) {
+      if (auto column = PreviousStop(stops, width)) return GridCell{from.row - 1, *column};
+    }
+  } else {
+    if (auto column = NextStop(stops, from.column)) return GridCell{from.row, *column};
+    if (from.row < last_row) {
+      if (auto column = NextStop(stops, -1)) return GridCell{from.row + 1, *column};
+    }
   }
-  if (from.column + 1 < columns) return GridCell{from.row, from.column + 1};
-  if (from.row < last_row) return GridCell{from.row + 1, 0};
   return tab ? std::nullopt : std::optional<GridCell>(from);  // Enter stays in the last cell
 }
 
