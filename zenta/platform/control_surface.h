@@ -28,8 +28,6 @@ class ControlSurface {
   virtual CheckBox& AddCheckBox(const WidgetSpec& definition, const std::string& caption) = 0;
   virtual Label& AddLabel(const WidgetSpec& definition, const std::string& caption) = 0;
   virtual Grid& AddGrid(const WidgetSpec& definition, int column_count) = 0;
-  // A number edit that lives inside `grid` as the editor of `column`; no tab stop of its own.
-  virtual NumberEdit& AddGridEditor(const WidgetSpec& definition, Grid& grid, int column) = 0;
 
   // Every child, in creation order.
   virtual std::vector<Widget*> Children() const = 0;

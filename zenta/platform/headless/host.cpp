@@ -9,6 +9,8 @@ void Host::InjectKeys(const std::string& keys) {
   injected_.push_back(keys);
 }
 
+void Host::Post(std::function<void()> action) { form_.Post(std::move(action)); }
+
 void Host::RaiseEvent(platform::RaisedEvent& event) {
   if (on_event_) on_event_(event);
   events_.push_back(event);

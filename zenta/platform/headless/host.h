@@ -21,7 +21,7 @@ class UnexpectedMessageBox : public std::logic_error {
 
 // Host services in memory, for one control on a Form. It records what the control asked of
 // the host — raised events (number, name, arguments after the handler ran), message boxes,
-// injected keystrokes, properties marked changed — and answers message boxes from a queue the
+// injected keystrokes, properties marked changed, beeps — and answers message boxes from a queue the
 // caller fills.
 class Host : public platform::HostServices {
  public:
@@ -31,8 +31,15 @@ class Host : public platform::HostServices {
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
+  // Queues on the Form: run after the user's action, or by Form::RunPosted().
+  void Post(std::function<void()> action) override;
+  void Beep() override { ++beeps_; }
+  platform::ContainerMetrics Container() const override { return container_; }
   Date Today() const override;
   char32_t DecimalSeparator() const override { return separator_; }
+
+  int Beeps() const { return beeps_; }
+  void SetContainer(const platform::ContainerMetrics& metrics) { container_ = metrics; }
 
   // The next message box is answered with `answer`; boxes are answered in order.
   void ExpectMessage(platform::MessageResult answer) { answers_.push_back(answer); }
@@ -62,6 +69,8 @@ class Host : public platform::HostServices {
   std::vector<std::string> changed_;
   std::vector<std::string> injected_;
   char32_t separator_ = U'.';
+  int beeps_ = 0;
+  platform::ContainerMetrics container_;
 };
 
 }  // namespace zenta::headless

@@ -7,6 +7,7 @@ namespace zenta::headless {
 
 class Form;
 class Surface;
+class Dialog;
 
 // What the Form needs of every headless widget to route focus and keys to it.
 class InputNode {
@@ -22,6 +23,9 @@ class InputNode {
   virtual void FocusLost() {}
 
   Surface* surface() const { return surface_; }
+  // The dialog the widget belongs to, nullptr for a control's or the host's widgets.
+  Dialog* dialog() const { return dialog_; }
+  void AttachToDialog(Dialog* dialog) { dialog_ = dialog; }
   bool tab_stop() const { return tab_stop_; }
 
  protected:
@@ -30,6 +34,7 @@ class InputNode {
 
  private:
   Surface* surface_;
+  Dialog* dialog_ = nullptr;
   bool tab_stop_;
 };
 

@@ -2,7 +2,6 @@
 
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
-#include "zenta/platform/headless/grid_widget.h"
 
 namespace zenta::headless {
 
@@ -66,19 +65,10 @@ void NumberEditWidget::HandleKeyDown(platform::KeyDown& key) {
   if (key.key_code == platform::keys::kF2) {
     SetValue(std::nullopt);
     key.key_code = 0;
-  } else if (grid_ && (key.key_code == platform::keys::kEnter || key.key_code == platform::keys::kTab)) {
-    grid_->EndEditFromEditor(key);
   }
 }
 
-void NumberEditWidget::HandleCharacter(char32_t character) {
-  if (grid_) {
-    platform::KeyPress press{character};
-    grid_->FilterKey(press);
-    character = press.key;
-  }
-  TypeCharacter(character);
-}
+void NumberEditWidget::HandleCharacter(char32_t character) { TypeCharacter(character); }
 
 void NumberEditWidget::TypeCharacter(char32_t character) {
   if (character == 0) return;
@@ -102,13 +92,11 @@ void NumberEditWidget::TypeCharacter(char32_t character) {
 
 void NumberEditWidget::FocusGained() {
   all_selected_ = true;
-  if (grid_) grid_->EditorGainingFocus(*this);
   if (on_focus_gained_) on_focus_gained_();
 }
 
 void NumberEditWidget::FocusLost() {
   all_selected_ = false;
-  if (grid_) grid_->EditorLosingFocus();
   if (on_focus_lost_) on_focus_lost_();
 }
 

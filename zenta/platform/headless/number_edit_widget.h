@@ -7,8 +7,6 @@
 
 namespace zenta::headless {
 
-class GridWidget;
-
 // A numeric edit in memory. Typing obeys the edit format (digits, one ".", a leading "-", at
 // most the format's integer digits and decimals); gaining the focus selects all, so typing
 // replaces; F2 clears. Away from the focus it shows the value through its display format.
@@ -33,10 +31,7 @@ class NumberEditWidget : public WidgetBase<platform::NumberEdit> {
   void FocusGained() override;
   void FocusLost() override;
 
-  // Set when the edit serves a grid as its in-cell editor: typed keys pass the grid's filter
-  // first, and Enter or Tab end the grid's edit.
-  void AttachToGrid(GridWidget* grid) { grid_ = grid; }
-  // A character that has passed every filter already (the key that opened a grid cell).
+  // A character that has passed every filter already.
   void TypeCharacter(char32_t character);
   bool AllSelected() const { return all_selected_; }
 
@@ -50,7 +45,6 @@ class NumberEditWidget : public WidgetBase<platform::NumberEdit> {
   int decimals_ = 2;
   OleColor back_color_ = 0x80000005u;
   bool all_selected_ = false;
-  GridWidget* grid_ = nullptr;
   platform::Callback on_focus_gained_;
   platform::Callback on_focus_lost_;
 };

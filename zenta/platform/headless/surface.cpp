@@ -44,13 +44,6 @@ platform::Label& Surface::AddLabel(const platform::WidgetSpec& definition, const
 platform::Grid& Surface::AddGrid(const platform::WidgetSpec& definition, int column_count) {
   return Add<GridWidget>(definition, column_count);
 }
-platform::NumberEdit& Surface::AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) {
-  platform::WidgetSpec editor = definition;
-  editor.tab_stop = false;
-  auto& edit = Add<NumberEditWidget>(editor);
-  grid.SetColumnEditor(column, &edit);
-  return edit;
-}
 
 std::vector<platform::Widget*> Surface::Children() const {
   std::vector<platform::Widget*> children;

@@ -25,7 +25,6 @@ class Surface : public platform::ControlSurface {
   platform::CheckBox& AddCheckBox(const platform::WidgetSpec& definition, const std::string& caption) override;
   platform::Label& AddLabel(const platform::WidgetSpec& definition, const std::string& caption) override;
   platform::Grid& AddGrid(const platform::WidgetSpec& definition, int column_count) override;
-  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) override;
 
   std::vector<platform::Widget*> Children() const override;
   platform::Widget* ActiveChild() const override;

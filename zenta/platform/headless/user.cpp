@@ -1,6 +1,7 @@
 #include "zenta/platform/headless/user.h"
 
 #include "zenta/core/utf8.h"
+#include "zenta/platform/headless/button_widget.h"
 #include "zenta/platform/headless/check_box_widget.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/text_box_widget.h"
@@ -13,9 +14,9 @@ namespace {
 // action run first, and those the action's own handlers inject run before it returns.
 template <class Action>
 void Turn(Form& form, Action action) {
-  form.ProcessQueuedKeys();
+  form.Settle();
   action();
-  form.ProcessQueuedKeys();
+  form.Settle();
 }
 }  // namespace
 
@@ -49,6 +50,21 @@ void User::Click(platform::Widget& widget) {
     if (!form_.CanFocus(&widget)) return;
     form_.SetFocus(&widget);
     if (auto* box = dynamic_cast<CheckBoxWidget*>(&widget); box && box->HasFocus()) box->Toggle();
+    if (auto* button = dynamic_cast<ButtonWidget*>(&widget); button && button->HasFocus()) button->Click();
+  });
+}
+
+void User::ClickCell(platform::Grid& grid, int row, int column) {
+  Turn(form_, [&] {
+    if (!form_.CanFocus(&grid)) return;
+    form_.SetFocus(&grid);
+    if (!grid.HasFocus()) return;
+    platform::GridEngine& engine = grid.Engine();
+    if (column >= 0 && column < engine.ColumnCount() && engine.Column(column).kind == platform::ColumnKind::Button) {
+      engine.ClickButton(row, column);
+    } else {
+      engine.ClickCell(row, column);
+    }
   });
 }
 

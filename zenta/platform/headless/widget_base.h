@@ -26,7 +26,8 @@ class WidgetBase : public Interface, public InputNode {
   bool HasFocus() const override { return form_.Focused() == this; }
 
   const std::string& Tooltip() const { return tooltip_; }
-  const platform::TwipsRect& Rect() const { return rect_; }
+  platform::TwipsRect Rect() const override { return rect_; }
+  void SetRect(const platform::TwipsRect& rect) override { rect_ = rect; }
 
  private:
   std::string name_;
