@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/surface.h"
 
@@ -35,6 +38,48 @@ INSTANTIATE_TEST_SUITE_P(Typed, ImpliedDecimal,
                                            TypedCase{"12.3", "12.3"}, TypedCase{"1234.", "1234."},
                                            TypedCase{"0.50", "0.50"}, TypedCase{"1234.00", "1234.00"},
                                            TypedCase{"", ""}, TypedCase{"-", "-"}));
+
+struct TextCase {
+  const char* typed;
+  std::optional<std::string> text;
+};
+
+class ImpliedDecimalOnText : public ::testing::TestWithParam<TextCase> {};
+
+// The grid cells' form of the rule: nothing to rewrite is nullopt, and the text stays as typed.
+TEST_P(ImpliedDecimalOnText, MatchesTheFieldRule) {
+  EXPECT_EQ(ImpliedDecimalText(GetParam().typed), GetParam().text) << GetParam().typed;
+}
+
+INSTANTIATE_TEST_SUITE_P(Typed, ImpliedDecimalOnText,
+                         ::testing::Values(TextCase{"12345", "123.45"}, TextCase{"150", "1.50"},
+                                           TextCase{"-75", "-0.75"}, TextCase{"150.5", std::nullopt},
+                                           TextCase{".", std::nullopt}, TextCase{"-", std::nullopt},
+                                           TextCase{"", std::nullopt}, TextCase{"12a", std::nullopt},
+                                           TextCase{"99999999999999999999999", std::nullopt}));
+
+struct KeyCase {
+  const char* text;
+  int start;
+  int length;
+  char32_t key;
+  bool fits;
+};
+
+class AmountKeys : public ::testing::TestWithParam<KeyCase> {};
+
+TEST_P(AmountKeys, KeepTheAmountEditFormat) {
+  const KeyCase& c = GetParam();
+  EXPECT_EQ(AmountKeyFits(c.text, c.start, c.length, c.key), c.fits) << c.text << " + " << static_cast<int>(c.key);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, AmountKeys,
+    ::testing::Values(KeyCase{"", 0, 0, U'-', true}, KeyCase{"12", 2, 0, U'-', false}, KeyCase{"12", 0, 2, U'-', true},
+                      KeyCase{"12.3", 4, 0, U'.', false}, KeyCase{"12.3", 2, 2, U'.', true},
+                      KeyCase{"12.34", 5, 0, U'5', false}, KeyCase{"123456789", 9, 0, U'0', false},
+                      KeyCase{"123456789", 9, 0, U'.', true}, KeyCase{"12", 2, 0, U'a', false},
+                      KeyCase{"12.34", 5, 0, 8, true}));
 
 TEST_F(AmountEntry, ProgramSetAmountsAreNeverDivided) {
   SetAmount(edit, Currency::FromInteger(1234));

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "zenta/core/currency.h"
 #include "zenta/platform/number_edit.h"
 
@@ -9,6 +13,18 @@ namespace zenta::entry {
 // 12.34, -75 becomes -0.75. A text holding "." anywhere is left as typed, whatever the locale
 // uses as its separator. An empty field stays empty. Returns true when the text was rewritten.
 bool ApplyImpliedDecimal(platform::NumberEdit& edit);
+
+// The same rule on a text, for amounts typed where there is no number edit (a grid cell): the
+// amount a text without "." stands for, divided by 100; nullopt when the text holds a "." or
+// is not a number (empty, "-", letters), and then it is kept as typed.
+std::optional<Currency> ImpliedDecimalValue(std::string_view text);
+// As ImpliedDecimalValue, formatted "########0.00" ("12345" gives "123.45").
+std::optional<std::string> ImpliedDecimalText(std::string_view text);
+
+// Whether a key typed into an amount text (selection in code points) leaves a text the amount
+// edit format "#########.##" takes: an optional leading "-", at most nine digits before the
+// "." and two after it. Backspace always fits.
+bool AmountKeyFits(std::string_view text, int selection_start, int selection_length, char32_t key);
 
 // Money set by the program is never divided: the value goes in as it is, and a text without
 // "." is rewritten with two decimals (1234 shows "1234.00").

@@ -66,7 +66,16 @@ class GridView {
 //  - Enter and Tab left intact by key_down move to the next cell with a tab stop (Enter stays
 //    in the last cell, Tab leaves the grid from it); Up and Down change the row; Left and
 //    Right move across cells while no edit is open; F2 opens an edit with the caret at the
-//    end; Escape abandons an open edit; Space or Enter on a button cell clicks it.
+//    end; Escape abandons an open edit (with none open, the row's pending cells; with nothing
+//    to abandon it is left to the window); Ctrl+Delete deletes when AllowDelete; Space or
+//    Enter on a button cell clicks it.
+//
+// Re-entrancy: handlers may call back in. SetCellText on the edited cell inside
+// before_col_update rewrites what is stored; SetCurrentColumn there is taken once the handler
+// has returned (with cancel, the edit's text is then dropped); Rebind anywhere drops the open
+// edit and pending cells; a commit or row store asked for from inside its own check is
+// refused. A key whose commit moved the current cell (a handler chose it) is consumed without
+// further navigation. A source that throws HostError is reported through `error`.
 class GridEngine {
  public:
   GridEngine(GridView& view, int column_count);
@@ -93,6 +102,7 @@ class GridEngine {
   int RowCount() const;
   void SetAllowAddNew(bool allow);
   bool AllowAddNew() const { return allow_add_new_; }
+  // Whether Ctrl+Delete deletes the current row; DeleteCurrentRow() is the program's own.
   void SetAllowDelete(bool allow) { allow_delete_ = allow; }
   bool AllowDelete() const { return allow_delete_; }
   // Rows the views show: every source row, and the add-new row when allowed.

@@ -20,28 +20,26 @@ class GovtDetailsTest : public ::testing::Test {
   headless::User& user = screen.user;
   headless::Host& host = screen.host;
   platform::Grid& grid = screen.Get<platform::Grid>("grItems");
+  platform::GridEngine& engine = grid.Engine();
 
-  void StartOnRow(int row) {
-    user.Click(grid);
-    grid.SetCurrentRow(row);
-    grid.SetCurrentColumn(1);
-  }
+  void StartOnRow(int row) { user.ClickCell(grid, row, 1); }
 };
 
 TEST_F(GovtDetailsTest, LoadsTwelveLetteredRows) {
   EXPECT_EQ(control.GridNumberofRows(), 12);
-  EXPECT_EQ(grid.DisplayedText(1, 0), "A-01");
-  EXPECT_EQ(grid.DisplayedText(12, 0), "L-12");
-  EXPECT_EQ(grid.ColumnCaption(0), "Item");
-  EXPECT_EQ(grid.ColumnCaption(1), "Amount");
+  EXPECT_EQ(engine.DisplayedText(1, 0), "A-01");
+  EXPECT_EQ(engine.DisplayedText(12, 0), "L-12");
+  EXPECT_EQ(engine.Column(0).caption, "Item");
+  EXPECT_EQ(engine.Column(1).caption, "Amount");
+  EXPECT_EQ(engine.Column(1).editor_tooltip, "Enter the amount of the payment");
 }
 
 TEST_F(GovtDetailsTest, SetRowsTakesOneToTwentySixAndRefusesTheRest) {
   control.SetRows(26);
   EXPECT_EQ(control.GridNumberofRows(), 26);
-  EXPECT_EQ(grid.DisplayedText(9, 0), "I-09");
-  EXPECT_EQ(grid.DisplayedText(10, 0), "J-10");
-  EXPECT_EQ(grid.DisplayedText(26, 0), "Z-26");
+  EXPECT_EQ(engine.DisplayedText(9, 0), "I-09");
+  EXPECT_EQ(engine.DisplayedText(10, 0), "J-10");
+  EXPECT_EQ(engine.DisplayedText(26, 0), "Z-26");
   control.SetGridValues(3, "7.00");
   for (std::int16_t bad : {std::int16_t{0}, std::int16_t{27}, std::int16_t{-1}}) {
     try {
@@ -60,7 +58,8 @@ TEST_F(GovtDetailsTest, SetRowsTakesOneToTwentySixAndRefusesTheRest) {
 TEST_F(GovtDetailsTest, AnAmountTypedAsCentsIsStoredDividedAndReported) {
   StartOnRow(4);
   user.Type("4550");
-  EXPECT_EQ(screen.FocusedName(), "txtGridEntry");
+  EXPECT_TRUE(engine.IsEditing());
+  EXPECT_EQ(control.GridValues(4), "4550");  // as typed until the cell is left
   user.PressEnter();  // the grid keeps Enter: it ends the edit
   EXPECT_EQ(control.GridValues(4), "45.5");
   ASSERT_EQ(host.Events().size(), 1u);
@@ -85,21 +84,50 @@ TEST_F(GovtDetailsTest, TypedListenersHearTheUpdatedRow) {
   EXPECT_THAT(host.EventNames(), ElementsAre("GridRowUpdated"));
 }
 
-TEST_F(GovtDetailsTest, GridCellsTakeEighteenCharactersExactly) {
-  StartOnRow(2);
-  grid.SetCurrentColumn(0);
-  user.Type("abcdefghijklmnopqr");
-  EXPECT_EQ(grid.CellText(0), "ABCDEFGHIJKLMNOPQR");
-  user.Type("s");
-  EXPECT_EQ(grid.CellText(0), "ABCDEFGHIJKLMNOPQR");
-  user.PressBackspace();
-  user.Type("!z");  // "!" is never accepted
-  EXPECT_EQ(grid.CellText(0), "ABCDEFGHIJKLMNOPQZ");
+TEST_F(GovtDetailsTest, ACellOfEighteenCharactersExactlyRefusesKeysButBackspace) {
+  control.SetGridValues(5, "123456789012345678");
+  control.SetGridValues(6, "1234567890123456789012");  // longer than 18 through the host
+  StartOnRow(5);
+  user.Type("7");
+  EXPECT_FALSE(engine.IsEditing());
+  EXPECT_EQ(control.GridValues(5), "123456789012345678");
+  user.PressBackspace();  // the whole text was selected
+  EXPECT_EQ(engine.CellText(1), "");
+  StartOnRow(6);
+  user.Type("7");
+  EXPECT_EQ(engine.CellText(1), "7");
+}
 
-  control.SetGridValues(5, "1234567890123456789012");  // longer than 18 through the host
-  grid.SetCurrentRow(5);
-  grid.SetCurrentColumn(1);
-  EXPECT_EQ(utf8::Length(grid.CellText(1)), 22u);
+TEST_F(GovtDetailsTest, AmountCellsTakeWhatAnAmountCanHoldInUpperCase) {
+  StartOnRow(2);
+  user.Type("1-a!2.345");  // "-" only first, never letters or "!", two decimals
+  EXPECT_EQ(engine.CellText(1), "12.34");
+  user.PressBackspace();
+  user.Type("9");
+  EXPECT_EQ(engine.CellText(1), "12.39");
+}
+
+TEST_F(GovtDetailsTest, TheItemColumnIsPassedOverAndNeverWritten) {
+  user.Click(screen.Get<platform::DateEdit>("dtDueDate"));
+  user.PressTab();
+  EXPECT_EQ(screen.FocusedName(), "grItems");
+  EXPECT_EQ(engine.CurrentColumn(), 1);
+  int tabs = 0;
+  while (screen.FocusedName() == "grItems" && tabs < 30) {
+    EXPECT_EQ(engine.CurrentColumn(), 1);
+    user.Type("1\t");
+    ++tabs;
+  }
+  EXPECT_EQ(tabs, 12);  // one per amount, the last one leaves
+  EXPECT_EQ(screen.FocusedName(), "txtComments");
+  EXPECT_EQ(control.GridValues(12), "0.01");
+
+  user.ClickCell(grid, 3, 0);  // a click may stand on a label, but typing never replaces it
+  user.Type("ZZ");
+  user.PressKey(platform::keys::kF2);
+  user.Type("9");
+  EXPECT_FALSE(engine.IsEditing());
+  EXPECT_EQ(engine.DisplayedText(3, 0), "C-03");
 }
 
 TEST_F(GovtDetailsTest, HostValuesGoToTheirRowOnlyAndKeepTheCurrentRow) {
@@ -110,7 +138,7 @@ TEST_F(GovtDetailsTest, HostValuesGoToTheirRowOnlyAndKeepTheCurrentRow) {
   EXPECT_EQ(control.GridValues(5), "abc 1,5");
   EXPECT_EQ(control.GridValues(2), "10.00");
   EXPECT_EQ(control.GridValues(30), "");
-  EXPECT_EQ(grid.CurrentRow(), 2);
+  EXPECT_EQ(engine.CurrentRow(), 2);
 }
 
 TEST_F(GovtDetailsTest, EnterInTheLastRowMovesToCommentsOrElseToTheAmount) {

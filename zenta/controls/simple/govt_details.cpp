@@ -29,7 +29,6 @@ GovtDetails::Widgets GovtDetails::Build(platform::ControlSurface& surface) {
   auto& due = surface.AddDateEdit(
       {"dtDueDate", {60, 1860, 1740, 300}, "Enter the date on which the payment is due"});
   auto& items = surface.AddGrid({"grItems", {60, 2220, 1740, 1200}}, 2);
-  auto& entry = surface.AddGridEditor({"txtGridEntry", {0, 0, 0, 0}, "Enter the amount of the payment"}, items, 1);
   surface.AddLabel({"lblComments", {60, 3480, 1740, 240}}, "Comments / Contact");
   auto& comments = surface.AddTextBox(
       {"txtComments", {60, 3720, 1740, 300}, "Enter applicable comments / contact information"});
@@ -38,13 +37,13 @@ GovtDetails::Widgets GovtDetails::Build(platform::ControlSurface& surface) {
   surface.AddLabel({"lblOtherAmount", {60, 4680, 1740, 240}}, "Other Amount");
   auto& other = surface.AddNumberEdit(
       {"txtOtherAmount", {60, 4920, 1740, 300}, "Enter the other amount of the payment"});
-  return {statement, from, to, due, items, entry, comments, amount, other};
+  return {statement, from, to, due, items, comments, amount, other};
 }
 
 GovtDetails::GovtDetails(platform::ControlSurface& surface, platform::HostServices& host)
     : SmallControl(surface, host, colors::kTitleYellow, kMinWidth, kMinHeight),
       w_(Build(surface)),
-      items_(w_.items, w_.grid_entry,
+      items_(w_.items,
              {.row_updated = EventRaiser(kGridRowUpdated, "GridRowUpdated", listener_, &Events::GridRowUpdated),
               .leave_last_row =
                   [this] {
@@ -103,7 +102,7 @@ void GovtDetails::PropertiesRead() {
 void GovtDetails::Shown() {
   if (!surface_.UserMode()) return;
   if (!items_.Loaded()) items_.Load(GovtItemsTable::kDefaultRows);
-  w_.items.Refresh();
+  w_.items.Engine().Refresh();
 }
 
 void GovtDetails::Clear() {

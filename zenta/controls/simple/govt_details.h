@@ -87,7 +87,8 @@ class GovtDetails : public SmallControl {
   void PropagateEnabled() override {}
   void PropertiesRead() override;
   void Shown() override;
-  bool EnterMovesOnFrom(const std::string& active_child) const override { return active_child != "txtGridEntry"; }
+  // The grid moves on Enter itself, through its amounts.
+  bool EnterMovesOnFrom(const std::string& active_child) const override { return active_child != "grItems"; }
 
  private:
   struct Widgets {
@@ -96,7 +97,6 @@ class GovtDetails : public SmallControl {
     platform::DateEdit& period_to;
     platform::DateEdit& due_date;
     platform::Grid& items;
-    platform::NumberEdit& grid_entry;
     platform::TextBox& comments;
     platform::NumberEdit& payment_amount;
     platform::NumberEdit& other_amount;
