@@ -1,0 +1,242 @@
+#include "zenta/controls/distribution/distribution_model.h"
+
+#include <limits>
+
+#include "zenta/controls/distribution/rate_conversion.h"
+#include "zenta/core/host_error.h"
+#include "zenta/core/number_format.h"
+#include "zenta/core/utf8.h"
+#include "zenta/entry/amount_entry.h"
+#include "zenta/entry/amount_key_filter.h"
+#include "zenta/entry/text_filters.h"
+
+namespace zenta {
+
+namespace {
+
+constexpr const char* kSource = "frmDistribution";
+constexpr char32_t kBackspace = 8;
+constexpr char32_t kEnter = 13;
+constexpr char32_t kDoubleQuote = 34;
+
+// Rows are counted in 16 bits, as the table's callers count them.
+std::int16_t RowNumber(int row) {
+  if (row > std::numeric_limits<std::int16_t>::max() || row < std::numeric_limits<std::int16_t>::min()) {
+    throw HostError::Overflow(kSource);
+  }
+  return static_cast<std::int16_t>(row);
+}
+
+char32_t UpperAscii(char32_t key) { return key >= U'a' && key <= U'z' ? key - U'a' + U'A' : key; }
+
+}  // namespace
+
+bool DistributionModel::IsEmptyCell(const Variant& value) {
+  if (value.IsEmpty()) return true;
+  return value.GetType() == Variant::Type::String && value.ToString().empty();
+}
+
+int DistributionModel::LowerRow() const { return table_ ? table_->LowerBound(1) : 0; }
+int DistributionModel::UpperRow() const { return table_ ? table_->UpperBound(1) : -1; }
+
+Variant DistributionModel::Cell(int row, int column) const { return table_ ? table_->Get(row, column) : Variant(); }
+
+void DistributionModel::SetAmountToDistribute(Currency amount) {
+  const std::int16_t last = RowNumber(UpperRow());
+  amount_to_distribute_ = amount;
+  initial_last_row_ = last;
+}
+
+void DistributionModel::SetIsFXPayment(bool fx) {
+  is_fx_payment_ = fx;
+  amount_column_ = fx ? kHomeColumn : kPaymentColumn;
+}
+
+std::string DistributionModel::PaymentColumnCaption() const { return "Expense (" + fx_currency_code_ + ")"; }
+
+std::optional<DistributionModel::Totals> DistributionModel::Sum() const {
+  try {
+    Totals totals;
+    RowNumber(UpperRow());
+    for (int row = LowerRow(); row <= UpperRow(); ++row) {
+      const Variant payment = Cell(row, kPaymentColumn);
+      if (!IsEmptyCell(payment)) totals.payment += payment.ToCurrency();
+      if (!visible_invoice_) continue;
+      const Variant home = Cell(row, kHomeColumn);
+      if (!IsEmptyCell(home)) totals.home += home.ToCurrency();
+    }
+    return totals;
+  } catch (const HostError&) {
+    return std::nullopt;
+  }
+}
+
+void DistributionModel::SetFooters(const Totals& totals) {
+  payment_footer_ = FormatNumber(totals.payment, formats::kAmount);
+  home_footer_ = FormatNumber(totals.home, formats::kAmount);
+}
+
+std::optional<Currency> DistributionModel::CalculateDistAmounts() {
+  const std::optional<Totals> totals = Sum();
+  if (!totals) return std::nullopt;
+  SetFooters(*totals);
+  distributed_total_ = is_fx_payment_ ? totals->home : totals->payment;
+  return distributed_total_;
+}
+
+void DistributionModel::RefreshFooters() {
+  if (const std::optional<Totals> totals = Sum()) SetFooters(*totals);
+}
+
+const std::string& DistributionModel::FooterText(int column) const {
+  if (column == kPaymentColumn) return payment_footer_;
+  if (column == kHomeColumn) return home_footer_;
+  throw HostError::SubscriptOutOfRange(kSource);
+}
+
+std::int16_t DistributionModel::DistributionCount() const {
+  for (int row = UpperRow(); row >= LowerRow(); --row) {
+    if (!IsEmptyCell(Cell(row, amount_column_))) return RowNumber(row + 1);
+  }
+  return 0;
+}
+
+std::optional<Currency> DistributionModel::FooterTotal() const {
+  const std::string_view footer = utf8::Trim(FooterText(amount_column_));
+  try {
+    return footer.empty() ? std::optional<Currency>(Currency()) : Currency::Parse(footer);
+  } catch (const HostError&) {
+    return std::nullopt;
+  }
+}
+
+bool DistributionModel::WantsFill(std::string_view account, std::string_view amount) const {
+  const std::optional<Currency> total = FooterTotal();
+  if (!total || *total == amount_to_distribute_) return false;
+  return !amount.empty() || !account.empty();
+}
+
+void DistributionModel::PutAmount(int row, Currency amount) {
+  table_->Set(row, amount_column_, Variant(amount));
+  if (!is_fx_payment_) return;
+  try {
+    table_->Set(row, kPaymentColumn, Variant(FromHomeAmount(amount, currency_rate_)));
+  } catch (const HostError&) {
+    // Without a rate there is no foreign amount to show; the Canadian amount stands alone.
+  }
+}
+
+bool DistributionModel::FillRemainingAmount(std::optional<int> current_row) {
+  if (!table_) return false;
+  const std::optional<Currency> total = FooterTotal();
+  if (!total) return false;
+  try {
+    const Currency remainder = amount_to_distribute_ - *total;
+    const int last = UpperRow();
+    const bool has_rows = last >= LowerRow();
+    const bool within = current_row && *current_row >= LowerRow() && *current_row <= last;
+    if (!has_rows || !IsEmptyCell(Cell(last, kAccountColumn)) || !within) {
+      if (remainder.IsZero()) return false;
+      table_->AppendRows(1);
+      PutAmount(table_->UpperBound(1), remainder);
+      return true;
+    }
+    for (int row = std::max<int>(LowerRow(), initial_last_row_ + 1); row <= last; ++row) {
+      const Variant amount = Cell(row, amount_column_);
+      if (!IsEmptyCell(Cell(row, kAccountColumn)) || IsEmptyCell(amount)) continue;
+      const Currency recomputed = amount_to_distribute_ - (*total - amount.ToCurrency());
+      PutAmount(row, recomputed);
+      return true;
+    }
+    if (remainder.IsZero() || !IsEmptyCell(Cell(last, amount_column_))) return false;
+    PutAmount(last, remainder);
+    return true;
+  } catch (const HostError&) {
+    return false;
+  }
+}
+
+DistributionModel::AmountsCheck DistributionModel::CheckAmountsEntered() {
+  for (int row = LowerRow(); row <= UpperRow(); ++row) {
+    if (!IsEmptyCell(Cell(row, kAccountColumn)) && IsEmptyOrNull(Cell(row, amount_column_))) {
+      return {false, row};
+    }
+    if (edit_rejected_) {
+      edit_rejected_ = false;
+      return {false, std::nullopt};
+    }
+  }
+  return {};
+}
+
+DistributionModel::CellVerdict DistributionModel::ValidateCell(int column, std::string& text, std::string_view account,
+                                                              const Variant& amount_cell) {
+  if (column == kAccountColumn) {
+    edit_rejected_ = false;
+    if (utf8::Length(text) <= kMaxAccountLength) return CellVerdict::Accept;
+    edit_rejected_ = true;
+    return CellVerdict::AccountTooLong;
+  }
+  if (!IsAmountColumn(column)) return CellVerdict::Accept;
+  if (!text.empty()) {
+    if (text == "-") text = "0";
+    if (text.find('.') == std::string::npos) {
+      if (auto cents = entry::ImpliedDecimalText(text)) text = *cents;
+    } else if (utf8::Length(text) == 1) {
+      text = "0";
+    }
+  }
+  bool amount_empty = false;
+  if (column == amount_column_) {
+    amount_empty = text.empty();
+  } else {
+    // The other amount column: a conversion is about to fill the amount column.
+    amount_empty = IsEmptyOrNull(amount_cell) && !(visible_invoice_ && !text.empty());
+  }
+  if (!account.empty() && amount_empty) return CellVerdict::AmountRequired;
+  return CellVerdict::Accept;
+}
+
+std::optional<DistributionModel::Conversion> DistributionModel::ConvertAmount(int column, const Variant& value) const {
+  if (!visible_invoice_ || !IsAmountColumn(column) || IsEmptyCell(value)) return std::nullopt;
+  try {
+    const Currency amount = value.ToCurrency();
+    if (column == kHomeColumn) return Conversion{kPaymentColumn, FromHomeAmount(amount, currency_rate_)};
+    return Conversion{kHomeColumn, ToHomeAmount(amount, currency_rate_)};
+  } catch (const HostError&) {
+    return std::nullopt;
+  }
+}
+
+char32_t DistributionModel::FilterCellKey(const platform::CellKeyPressArgs& key) const {
+  if (key.column == kAccountColumn) {
+    if (utf8::Length(key.text) >= kMaxAccountLength) {
+      // The four keys pass on purpose: the length check on leaving the cell catches the excess.
+      const bool passes = key.key == kBackspace || key.key == kEnter || key.key == U'-' || key.key == U'.';
+      return passes ? key.key : 0;
+    }
+    return key.key == kDoubleQuote ? 0 : UpperAscii(key.key);
+  }
+  if (IsAmountColumn(key.column)) {
+    return entry::FilterAmountKey(key.text, key.selection_start, key.selection_length, key.key);
+  }
+  return key.key;
+}
+
+std::string DistributionModel::CleanCellText(int column, std::string_view text,
+                                             const platform::HostServices& host) const {
+  if (column == kAccountColumn) return utf8::ToUpperAscii(entry::StripInvalidChars(text));
+  if (IsAmountColumn(column)) return utf8::ToUpperAscii(entry::NumericCharsOnly(text, host));
+  return std::string(text);
+}
+
+std::string DistributionModel::PaymentForText(std::string_view text) {
+  return entry::StripInvalidChars(utf8::ToUpperAscii(text));
+}
+
+char32_t DistributionModel::FilterPaymentForKey(char32_t key) {
+  if (key < 32) return key;
+  return PaymentForText(utf8::Encode(key)).empty() ? 0 : UpperAscii(key);
+}
+
+}  // namespace zenta

@@ -1,0 +1,160 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "zenta/core/currency.h"
+#include "zenta/core/variant.h"
+#include "zenta/platform/array_2d.h"
+#include "zenta/platform/grid_notifications.h"
+#include "zenta/platform/host_services.h"
+
+namespace zenta {
+
+// The state and rules of the G/L distribution dialog, with no widget in sight: the line table
+// shared with the caller (rows from its lower bound, columns 0 delete marker, 1 account,
+// 2 amount in the payment's currency, 3 amount in Canadian dollars), the amount the lines must
+// add up to, the foreign-currency settings, the totals and footers, and every check and filter
+// the dialog's grid applies. FrmDistribution only carries widget notifications here and shows
+// what comes back.
+//
+// Decisions of our own:
+//  - The remaining-amount fill leaves the lines adding up to AmountToDistribute exactly: the
+//    cell it recomputes becomes AmountToDistribute - (footer total - that cell's amount). It
+//    never rewrites the caller's own lines (rows up to the initial last row recorded when
+//    AmountToDistribute was set); only a line added in this dialog with an amount and no
+//    account is recomputed. With no such line the remainder goes into the last line when that
+//    line has neither account nor amount, and otherwise nothing changes. A new line is never
+//    appended for a remainder of zero.
+//  - Filled and converted amounts are stored as currency values rounded half to even to the
+//    cent; the grid shows them through its "########0.00" formatting.
+//  - A missing table reads as a table without rows.
+class DistributionModel {
+ public:
+  static constexpr int kDeleteColumn = 0;
+  static constexpr int kAccountColumn = 1;
+  static constexpr int kPaymentColumn = 2;
+  static constexpr int kHomeColumn = 3;
+  static constexpr std::size_t kMaxAccountLength = 30;
+
+  struct Totals {
+    Currency payment;  // column 2
+    Currency home;     // column 3, kept only with VisibleInvoice
+  };
+
+  enum class CellVerdict { Accept, AccountTooLong, AmountRequired };
+
+  struct Conversion {
+    int column = 0;
+    Currency value;
+  };
+
+  const std::shared_ptr<platform::Array2D>& Table() const { return table_; }
+  void SetTable(std::shared_ptr<platform::Array2D> table) { table_ = std::move(table); }
+
+  bool Chosen() const { return chosen_; }
+  void SetChosen(bool chosen) { chosen_ = chosen; }
+
+  Currency AmountToDistribute() const { return amount_to_distribute_; }
+  // Also records the table's upper row bound as the initial last row; a bound beyond 32,767
+  // raises HostError::Overflow and changes nothing.
+  void SetAmountToDistribute(Currency amount);
+  std::int16_t InitialLastRow() const { return initial_last_row_; }
+
+  bool IsFXPayment() const { return is_fx_payment_; }
+  // Also chooses the amount column: 3 for a foreign payment, 2 otherwise.
+  void SetIsFXPayment(bool fx);
+  int AmountColumn() const { return amount_column_; }
+
+  const std::string& FXCurrencyCode() const { return fx_currency_code_; }
+  void SetFXCurrencyCode(std::string code) { fx_currency_code_ = std::move(code); }
+  // Column 2's caption: "Expense (USD)" for a foreign currency code, "Expense" in plain mode.
+  std::string PaymentColumnCaption() const;
+  static std::string PlainPaymentColumnCaption() { return "Expense"; }
+
+  Currency CurrencyRate() const { return currency_rate_; }
+  void SetCurrencyRate(Currency rate) { currency_rate_ = rate; }
+  bool VisibleInvoice() const { return visible_invoice_; }
+  void SetVisibleInvoice(bool visible) { visible_invoice_ = visible; }
+
+  Currency DistributedTotal() const { return distributed_total_; }
+  bool TotalsMatch() const { return amount_to_distribute_ == distributed_total_; }
+  bool EditRejected() const { return edit_rejected_; }
+
+  // Recomputes both column totals and footers, and the distributed total (column 3's in FX
+  // mode, else column 2's), which it returns. A cell that does not read as a number or a sum
+  // out of range ends it at once with nullopt, leaving what was set before.
+  std::optional<Currency> CalculateDistAmounts();
+  // The footers alone, after a row change; the distributed total stays.
+  void RefreshFooters();
+  // The footer text of column 2 or 3 ("" before the first total).
+  const std::string& FooterText(int column) const;
+  // One more than the last row with an amount, 0 with none.
+  std::int16_t DistributionCount() const;
+
+  // Puts what is left of AmountToDistribute on a line (see the class comment); `current_row`
+  // is the grid's current bookmark. Returns true when the table changed.
+  bool FillRemainingAmount(std::optional<int> current_row);
+  // Whether the row-store rule asks for the fill: the footer total differs from
+  // AmountToDistribute and the row being left has an account or an amount.
+  bool WantsFill(std::string_view account, std::string_view amount) const;
+
+  // Before accepting: the first row with an account and no amount, or a rejected cell edit
+  // (consumed here), refuses. `missing_amount_row` names the row to show.
+  struct AmountsCheck {
+    bool may_accept = true;
+    std::optional<int> missing_amount_row;
+  };
+  AmountsCheck CheckAmountsEntered();
+
+  // A cell's edited text on its way into the row: amounts are normalised in `text` (implied
+  // cents, "-" and "." alone are 0); an account past 30 characters, or an account row left
+  // without an amount, is refused. `account` and `amount_cell` are the row's current cells.
+  CellVerdict ValidateCell(int column, std::string& text, std::string_view account, const Variant& amount_cell);
+  // The other amount of a row after column 2 or 3 was stored with `value`, when the dialog
+  // converts (VisibleInvoice) and the value reads as an amount.
+  std::optional<Conversion> ConvertAmount(int column, const Variant& value) const;
+
+  // Typing filters: the character a cell keeps (0 discards it), and the text a cell keeps
+  // while being edited.
+  char32_t FilterCellKey(const platform::CellKeyPressArgs& key) const;
+  std::string CleanCellText(int column, std::string_view text, const platform::HostServices& host) const;
+  static bool IsAmountColumn(int column) { return column == kPaymentColumn || column == kHomeColumn; }
+
+  // The payment-for text: upper case, printable ASCII without the double quote.
+  static std::string PaymentForText(std::string_view text);
+  static char32_t FilterPaymentForKey(char32_t key);
+
+  // "" and unset cells are empty; null only where the rule says so.
+  static bool IsEmptyCell(const Variant& value);
+  static bool IsEmptyOrNull(const Variant& value) { return value.IsNull() || IsEmptyCell(value); }
+
+ private:
+  std::optional<Totals> Sum() const;
+  // The amount column's footer read back as currency; an empty footer is 0.
+  std::optional<Currency> FooterTotal() const;
+  void SetFooters(const Totals& totals);
+  Variant Cell(int row, int column) const;
+  int LowerRow() const;
+  int UpperRow() const;
+  void PutAmount(int row, Currency amount);
+
+  std::shared_ptr<platform::Array2D> table_;
+  bool chosen_ = false;
+  Currency amount_to_distribute_;
+  std::int16_t initial_last_row_ = 0;
+  bool is_fx_payment_ = false;
+  std::string fx_currency_code_;
+  Currency distributed_total_;
+  Currency currency_rate_;
+  bool visible_invoice_ = false;
+  int amount_column_ = kPaymentColumn;
+  bool edit_rejected_ = false;
+  std::string payment_footer_;
+  std::string home_footer_;
+};
+
+}  // namespace zenta
