@@ -333,16 +333,18 @@ TEST(DistributionFillFx, PutsTheCanadianRemainderAndItsForeignAmount) {
   EXPECT_EQ(table->Get(1, Model::kPaymentColumn).ToCurrency(), Money("60"));
 }
 
-TEST(DistributionFillRule, AsksForTheFillOnlyWhenTotalsDifferOnALine) {
+TEST(DistributionFillRule, AStoredRowAsksForTheFillOrTheAcceptButton) {
+  using After = Model::AfterStore;
   Model model;
   model.SetTable(TableOf({{"A", "60", {}}}));
   model.SetAmountToDistribute(Money("100"));
   model.CalculateDistAmounts();
-  EXPECT_TRUE(model.WantsFill("A", ""));
-  EXPECT_TRUE(model.WantsFill("", "60"));
-  EXPECT_FALSE(model.WantsFill("", ""));
+  EXPECT_EQ(model.AfterRowStored("A", ""), After::Fill);
+  EXPECT_EQ(model.AfterRowStored("", "60"), After::Fill);
+  EXPECT_EQ(model.AfterRowStored("", ""), After::Nothing);
   model.SetAmountToDistribute(Money("60"));
-  EXPECT_FALSE(model.WantsFill("A", "60"));
+  EXPECT_EQ(model.AfterRowStored("A", "60"), After::FocusAccept);
+  EXPECT_EQ(model.AfterRowStored("", "60"), After::Nothing);
 }
 
 TEST(DistributionAmountsCheck, AnAccountWithoutAmountNamesItsRow) {

@@ -110,10 +110,14 @@ std::optional<Currency> DistributionModel::FooterTotal() const {
   }
 }
 
-bool DistributionModel::WantsFill(std::string_view account, std::string_view amount) const {
+DistributionModel::AfterStore DistributionModel::AfterRowStored(std::string_view account,
+                                                                std::string_view amount) const {
   const std::optional<Currency> total = FooterTotal();
-  if (!total || *total == amount_to_distribute_) return false;
-  return !amount.empty() || !account.empty();
+  if (!total) return AfterStore::Nothing;
+  if (*total != amount_to_distribute_) {
+    return amount.empty() && account.empty() ? AfterStore::Nothing : AfterStore::Fill;
+  }
+  return account.empty() ? AfterStore::Nothing : AfterStore::FocusAccept;
 }
 
 void DistributionModel::PutAmount(int row, Currency amount) {

@@ -98,9 +98,11 @@ class DistributionModel {
   // Puts what is left of AmountToDistribute on a line (see the class comment); `current_row`
   // is the grid's current bookmark. Returns true when the table changed.
   bool FillRemainingAmount(std::optional<int> current_row);
-  // Whether the row-store rule asks for the fill: the footer total differs from
-  // AmountToDistribute and the row being left has an account or an amount.
-  bool WantsFill(std::string_view account, std::string_view amount) const;
+  // What follows a row being stored, from the row's account and amount-column texts: the fill
+  // when the footer total differs from AmountToDistribute and the row holds either; the
+  // accept button when they are equal and the row has an account.
+  enum class AfterStore { Nothing, Fill, FocusAccept };
+  AfterStore AfterRowStored(std::string_view account, std::string_view amount) const;
 
   // Before accepting: the first row with an account and no amount, or a rejected cell edit
   // (consumed here), refuses. `missing_amount_row` names the row to show.
@@ -109,6 +111,8 @@ class DistributionModel {
     std::optional<int> missing_amount_row;
   };
   AmountsCheck CheckAmountsEntered();
+  // A refused commit has already been reported; its rejection must not refuse once more.
+  void ForgetRejectedEdit() { edit_rejected_ = false; }
 
   // A cell's edited text on its way into the row: amounts are normalised in `text` (implied
   // cents, "-" and "." alone are 0); an account past 30 characters, or an account row left

@@ -1,0 +1,379 @@
+#include "zenta/controls/distribution/frm_distribution.h"
+
+#include "zenta/core/host_error.h"
+#include "zenta/core/number_format.h"
+#include "zenta/core/ole_color.h"
+#include "zenta/core/utf8.h"
+#include "zenta/platform/keys.h"
+
+namespace zenta {
+
+namespace {
+
+using platform::TwipsRect;
+using Column = DistributionModel;
+
+constexpr const char* kRefusedTitle = "Cannot accept distibution.";
+constexpr int kTotalsMessage = 10;
+constexpr const char* kNegativePattern = "-*";
+constexpr OleColor kRed = 0x000000FF;
+
+// The window as designed, wide enough for both amount columns.
+constexpr TwipsRect kWindow{0, 0, 8205, 4695};
+constexpr TwipsRect kGrid{120, 120, 7950, 2775};
+constexpr TwipsRect kPaymentForLabel{120, 3015, 1095, 255};
+constexpr TwipsRect kPaymentFor{1240, 2985, 6845, 315};
+constexpr TwipsRect kAccept{5400, 3630, 1335, 375};
+constexpr TwipsRect kCancel{6840, 3630, 1335, 375};
+constexpr TwipsRect kFrame{0, 3480, 8205, 705};
+constexpr TwipsRect kShape{0, 0, 8190, 3420};
+constexpr int kDeleteWidth = 450;
+constexpr int kAccountWidth = 4215;
+constexpr int kAmountWidth = 1500;
+
+// The same window narrowed for a payment in Canadian dollars.
+struct PlainLayout {
+  static constexpr int kWindowWidth = 6705;
+  static constexpr int kPaymentForWidth = 5345;
+  static constexpr int kFrameWidth = 6705;
+  static constexpr int kShapeWidth = 6690;
+  static constexpr int kGridWidth = 6450;
+  static constexpr int kAcceptLeft = 3900;
+  static constexpr int kCancelLeft = 5340;
+};
+
+void SetWidth(platform::Widget& widget, int width) {
+  TwipsRect rect = widget.Rect();
+  rect.width = width;
+  widget.SetRect(rect);
+}
+
+void SetLeft(platform::Widget& widget, int left) {
+  TwipsRect rect = widget.Rect();
+  rect.left = left;
+  widget.SetRect(rect);
+}
+
+platform::GridColumn AmountColumn(std::string caption, bool visible) {
+  platform::GridColumn column;
+  column.caption = std::move(caption);
+  column.kind = platform::ColumnKind::Number;
+  column.visible = visible;
+  column.width = kAmountWidth;
+  column.editor_tooltip = "Enter the amount of the payment";
+  return column;
+}
+
+platform::TextBox& AddPaymentFor(platform::DialogSurface& surface) {
+  surface.AddLabel({"lblPaymentFor", kPaymentForLabel, "", false}, "&Payment For:");
+  return surface.AddTextBox({"txtPaymentFor", kPaymentFor, "", true});
+}
+
+}  // namespace
+
+FrmDistribution::FrmDistribution(platform::HostServices& host, std::unique_ptr<platform::DialogSurface> surface)
+    : host_(host),
+      surface_(std::move(surface)),
+      grid_(surface_->AddGrid({"grTempDistribution", kGrid, "", true}, 4)),
+      payment_for_(AddPaymentFor(*surface_)),
+      accept_(surface_->AddButton({"cmdGLAccept", kAccept, "Accept this distribution", true}, "&Accept")),
+      cancel_(surface_->AddButton({"cmdGLCancel", kCancel, "Cancel this distribution", true}, "Cancel")),
+      frame_(surface_->AddFrame({"Frame1", kFrame, "", false}, "")),
+      shape_(surface_->AddShape({"Shape1", kShape, "", false})) {
+  surface_->SetRect(kWindow);
+  surface_->SetCancelButton(cancel_);
+
+  platform::GridEngine& engine = grid_.Engine();
+  platform::GridColumn marker;
+  marker.caption = "Del";
+  marker.kind = platform::ColumnKind::Button;
+  marker.tab_stop = false;
+  marker.width = kDeleteWidth;
+  engine.SetColumn(Column::kDeleteColumn, marker);
+  platform::GridColumn account;
+  account.caption = "General Ledger Account No., Payment Description/Sub Ledger";
+  account.footer_text = "Total Expense";
+  account.width = kAccountWidth;
+  engine.SetColumn(Column::kAccountColumn, account);
+  engine.SetColumn(Column::kPaymentColumn, AmountColumn("Expense (USD)", true));
+  engine.SetColumn(Column::kHomeColumn, AmountColumn("Expense (CAD)", false));
+  engine.SetAllowAddNew(true);
+  engine.SetAllowDelete(true);
+  WireGrid();
+
+  payment_for_.OnKeyPress([this](platform::KeyPress& key) {
+    if (key.key == platform::keys::kEnter) {
+      key.key = 0;
+      FocusGrid();
+      return;
+    }
+    key.key = DistributionModel::FilterPaymentForKey(key.key);
+  });
+  accept_.OnClick([this] { OnAccept(); });
+  cancel_.OnClick([this] { OnCancel(); });
+  surface_->OnActivate([this] { OnActivate(); });
+}
+
+FrmDistribution::~FrmDistribution() = default;
+
+void FrmDistribution::WireGrid() {
+  platform::GridEngine& engine = grid_.Engine();
+  platform::GridHandlers& on = engine.Handlers();
+  on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
+  on.after_col_update = [this](int column) { OnAfterColUpdate(column); };
+  on.before_delete = [this](platform::CancelArgs& args) {
+    const platform::MessageBox question{"Are you sure you want to delete this distribution?",
+                                        "Delete this distribution?", platform::MessageButtons::YesNo,
+                                        platform::MessageIcon::Question};
+    if (host_.ShowMessage(question) != platform::MessageResult::Yes) args.cancel = true;
+  };
+  on.after_delete = [this] {
+    AfterLinesChanged(true);
+    KeepOffDeleteColumn();
+  };
+  on.after_update = [this] { OnAfterUpdate(); };
+  on.new_row_request = [this](int) { OnNewRowRequest(); };
+  on.button_click = [&engine](int column) {
+    if (column == Column::kDeleteColumn) engine.DeleteCurrentRow();
+  };
+  on.format_text = [](platform::FormatTextArgs& args) {
+    if (!Column::IsAmountColumn(args.column) || Column::IsEmptyOrNull(args.value)) return;
+    try {
+      args.text = FormatNumber(args.value.ToCurrency(), formats::kAmount);
+    } catch (const HostError&) {
+      // Text that is no number is shown as it stands.
+    }
+  };
+  on.posted = [this](int message) {
+    if (message == kTotalsMessage) CalculateDistAmounts();
+  };
+  on.error = [](platform::GridErrorArgs& args) { args.show_message = false; };
+  on.change = [this, &engine] {
+    const int column = engine.CurrentColumn();
+    const std::string text = engine.CellText(column);
+    const std::string cleaned = model_.CleanCellText(column, text, host_);
+    if (cleaned != text) engine.SetCellText(column, cleaned);
+  };
+  on.key_press = [this](platform::CellKeyPressArgs& args) { args.key = model_.FilterCellKey(args); };
+  on.key_down = [this](platform::KeyDown& key) { OnKeyDown(key); };
+  on.row_col_change = [this](std::optional<int>, int) { KeepOffDeleteColumn(); };
+}
+
+Variant FrmDistribution::CalculateDistAmounts() {
+  const std::optional<Currency> total = model_.CalculateDistAmounts();
+  if (!total) return Variant();
+  ShowFooters();
+  return Variant(*total);
+}
+
+void FrmDistribution::SetupForm() {
+  platform::GridEngine& engine = grid_.Engine();
+  for (int column : {Column::kPaymentColumn, Column::kHomeColumn}) {
+    bool styled = false;
+    for (const platform::CellStyleRule& rule : engine.Column(column).styles) styled |= rule.pattern == kNegativePattern;
+    if (!styled) engine.AddColumnStyle(column, {kNegativePattern, kRed, std::nullopt});
+  }
+  engine.Bind(model_.Table());
+  CalculateDistAmounts();
+}
+
+Variant FrmDistribution::PaymentFor() const { return Variant(payment_for_.Text()); }
+
+void FrmDistribution::SetPaymentFor(const Variant& vntPaymentFor) {
+  payment_for_.SetText(DistributionModel::PaymentForText(vntPaymentFor.ToString()));
+}
+
+void FrmDistribution::SetIsFXPayment(bool fx) {
+  model_.SetIsFXPayment(fx);
+  SetFXPayment();
+}
+
+void FrmDistribution::SetFXPayment() {
+  platform::GridEngine& engine = grid_.Engine();
+  model_.SetIsFXPayment(model_.IsFXPayment());
+  if (model_.IsFXPayment()) {
+    engine.SetColumnVisible(Column::kHomeColumn, true);
+    return;
+  }
+  TwipsRect window = surface_->Rect();
+  window.width = PlainLayout::kWindowWidth;
+  surface_->SetRect(window);
+  SetWidth(payment_for_, PlainLayout::kPaymentForWidth);
+  SetWidth(frame_, PlainLayout::kFrameWidth);
+  SetWidth(shape_, PlainLayout::kShapeWidth);
+  SetWidth(grid_, PlainLayout::kGridWidth);
+  engine.SetColumnCaption(Column::kPaymentColumn, DistributionModel::PlainPaymentColumnCaption());
+  engine.SetColumnVisible(Column::kHomeColumn, false);
+  SetLeft(accept_, PlainLayout::kAcceptLeft);
+  SetLeft(cancel_, PlainLayout::kCancelLeft);
+}
+
+void FrmDistribution::SetFXCurrencyCode(const std::string& code) {
+  model_.SetFXCurrencyCode(code);
+  grid_.Engine().SetColumnCaption(Column::kPaymentColumn, model_.PaymentColumnCaption());
+}
+
+void FrmDistribution::Show() { surface_->ShowModal(); }
+
+void FrmDistribution::ShowFooters() {
+  platform::GridEngine& engine = grid_.Engine();
+  engine.SetFooterText(Column::kPaymentColumn, model_.FooterText(Column::kPaymentColumn));
+  engine.SetFooterText(Column::kHomeColumn, model_.FooterText(Column::kHomeColumn));
+}
+
+void FrmDistribution::FocusGrid() {
+  if (surface_->CanFocus(grid_)) grid_.SetFocus();
+}
+
+void FrmDistribution::FocusAccept() {
+  if (accept_.Enabled()) accept_.SetFocus();
+}
+
+void FrmDistribution::KeepOffDeleteColumn() {
+  platform::GridEngine& engine = grid_.Engine();
+  if (engine.CurrentColumn() <= Column::kDeleteColumn) engine.SetCurrentColumn(Column::kAccountColumn);
+}
+
+void FrmDistribution::Inform(const std::string& text) {
+  host_.ShowMessage({text, kRefusedTitle, platform::MessageButtons::Ok, platform::MessageIcon::Information});
+}
+
+void FrmDistribution::AfterLinesChanged(bool fill) {
+  CalculateDistAmounts();
+  model_.RefreshFooters();
+  ShowFooters();
+  if (fill && model_.FillRemainingAmount(grid_.Engine().CurrentRow())) grid_.Engine().Rebind();
+}
+
+void FrmDistribution::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
+  platform::GridEngine& engine = grid_.Engine();
+  std::string text = engine.CellText(args.column);
+  const std::string typed = text;
+  const std::string account = engine.CellText(Column::kAccountColumn);
+  const Variant amount = engine.CellValue(model_.AmountColumn());
+  const auto verdict = model_.ValidateCell(args.column, text, account, amount);
+  if (text != typed) engine.SetCellText(args.column, text);
+  switch (verdict) {
+    case DistributionModel::CellVerdict::Accept:
+      return;
+    case DistributionModel::CellVerdict::AccountTooLong:
+      Inform("The General Ledger Account Number must not be more than 30 characters in length.");
+      args.cancel = true;
+      engine.SetCurrentColumn(Column::kAccountColumn);
+      return;
+    case DistributionModel::CellVerdict::AmountRequired:
+      Inform("An amount is required.");
+      args.cancel = true;
+      engine.SetCurrentColumn(model_.AmountColumn());
+      return;
+  }
+}
+
+void FrmDistribution::OnAfterColUpdate(int column) {
+  if (!Column::IsAmountColumn(column)) return;
+  if (!model_.VisibleInvoice()) {
+    CalculateDistAmounts();
+    return;
+  }
+  platform::GridEngine& engine = grid_.Engine();
+  if (const auto converted = model_.ConvertAmount(column, engine.CellValue(column))) {
+    engine.SetCellValue(converted->column, Variant(converted->value));
+  }
+  engine.PostMessage(kTotalsMessage);
+}
+
+void FrmDistribution::OnAfterUpdate() {
+  AfterLinesChanged(false);
+  platform::GridEngine& engine = grid_.Engine();
+  switch (model_.AfterRowStored(engine.CellText(Column::kAccountColumn), engine.CellText(model_.AmountColumn()))) {
+    case DistributionModel::AfterStore::Nothing:
+      return;
+    case DistributionModel::AfterStore::Fill:
+      if (model_.FillRemainingAmount(engine.CurrentRow())) engine.Rebind();
+      return;
+    case DistributionModel::AfterStore::FocusAccept:
+      FocusAccept();
+      return;
+  }
+}
+
+// Tab or Enter from the row's last amount stores the row, then goes to Accept once the lines
+// add up, else to the next line's account.
+void FrmDistribution::OnKeyDown(platform::KeyDown& key) {
+  if ((key.key_code != platform::keys::kTab && key.key_code != platform::keys::kEnter) ||
+      key.shift != platform::kNoShift) {
+    return;
+  }
+  platform::GridEngine& engine = grid_.Engine();
+  if (!engine.CurrentRow() || engine.CurrentColumn() < model_.AmountColumn()) return;
+  const int pressed = key.key_code;
+  key.key_code = 0;
+  if (!engine.CommitRow() || accept_.HasFocus()) return;
+  if (model_.TotalsMatch()) {
+    FocusAccept();
+    return;
+  }
+  const std::optional<int> row = engine.CurrentRow();
+  if (row && *row + 1 < engine.FirstRow() + engine.DisplayRowCount()) {
+    if (engine.SetCurrentRow(*row + 1)) engine.SetCurrentColumn(Column::kAccountColumn);
+    return;
+  }
+  // Past the last line the grid's own handling goes on (Tab leaves the grid).
+  key.key_code = pressed;
+}
+
+// A line started below the last one becomes a table line at once, so the fill and the totals
+// see it as the line being typed.
+void FrmDistribution::OnNewRowRequest() {
+  platform::GridEngine& engine = grid_.Engine();
+  const LineTable& table = model_.Table();
+  if (!table || engine.RowChanged()) return;
+  table->AppendRows(1);
+  engine.Rebind();
+}
+
+void FrmDistribution::OnActivate() {
+  platform::GridEngine& engine = grid_.Engine();
+  if (model_.TotalsMatch() && !engine.CellText(Column::kAccountColumn).empty()) {
+    FocusAccept();
+    return;
+  }
+  engine.SetCurrentColumn(Column::kAccountColumn);
+  FocusGrid();
+}
+
+void FrmDistribution::OnAccept() {
+  platform::GridEngine& engine = grid_.Engine();
+  // A refused cell has shown its own message; accepting stops there.
+  if (model_.EditRejected() || !engine.CommitRow()) {
+    model_.ForgetRejectedEdit();
+    FocusGrid();
+    return;
+  }
+  const DistributionModel::AmountsCheck check = model_.CheckAmountsEntered();
+  if (!check.may_accept) {
+    if (check.missing_amount_row) {
+      Inform("An amount is required.");
+      engine.SetCurrentRow(*check.missing_amount_row);
+      engine.SetCurrentColumn(model_.AmountColumn());
+    }
+    FocusGrid();
+    return;
+  }
+  const Variant total = CalculateDistAmounts();
+  if (!total.IsEmpty() && total.ToCurrency() == model_.AmountToDistribute()) {
+    model_.SetChosen(true);
+    surface_->Hide();
+    return;
+  }
+  Inform("The total amounts you enter must be equal to the 'Amount to Distribute'.");
+  FocusGrid();
+}
+
+void FrmDistribution::OnCancel() {
+  grid_.Engine().CancelEdit();
+  model_.SetChosen(false);
+  surface_->Hide();
+}
+
+}  // namespace zenta

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "zenta/controls/distribution/distribution_model.h"
+#include "zenta/core/currency.h"
+#include "zenta/core/variant.h"
+#include "zenta/platform/button.h"
+#include "zenta/platform/dialog_surface.h"
+#include "zenta/platform/grid.h"
+#include "zenta/platform/host_services.h"
+#include "zenta/platform/text_box.h"
+
+namespace zenta {
+
+// The modal G/L distribution window: one amount split over account lines, accepted only when
+// the lines add up to it exactly. Callers share one instance (see LibraryContext), prepare it
+// through the members below in their order, call Show(), and read Chosen and the line table
+// afterwards. The window is laid out wide for a foreign-currency payment and narrowed once for
+// a plain one. Every rule lives in DistributionModel; this class wires the window's widgets and
+// grid notifications to it.
+class FrmDistribution {
+ public:
+  using LineTable = std::shared_ptr<platform::Array2D>;
+
+  FrmDistribution(platform::HostServices& host, std::unique_ptr<platform::DialogSurface> surface);
+  ~FrmDistribution();
+  FrmDistribution(const FrmDistribution&) = delete;
+  FrmDistribution& operator=(const FrmDistribution&) = delete;
+
+  // The amount column's total as a currency, or empty when a cell did not read as a number.
+  Variant CalculateDistAmounts();
+  // Red negatives, the grid bound to the current table, totals.
+  void SetupForm();
+  bool Chosen() const { return model_.Chosen(); }
+  Currency AmountToDistribute() const { return model_.AmountToDistribute(); }
+  void SetAmountToDistribute(Currency curAmount) { model_.SetAmountToDistribute(curAmount); }
+  // Accepted for the callers' sake; nothing is kept or shown.
+  void SetInvoiceNo(const std::string& /*strInvoiceNo*/) {}
+  const LineTable& XTempDistribution() const { return model_.Table(); }
+  void SetXTempDistribution(LineTable table) { model_.SetTable(std::move(table)); }
+  Variant PaymentFor() const;
+  void SetPaymentFor(const Variant& vntPaymentFor);
+  void SetVisibleInvoice(bool visible) { model_.SetVisibleInvoice(visible); }
+  std::int16_t DistributionCount() const { return model_.DistributionCount(); }
+  void SetCurrencyRate(Currency rate) { model_.SetCurrencyRate(rate); }
+  bool IsFXPayment() const { return model_.IsFXPayment(); }
+  void SetIsFXPayment(bool fx);
+  void SetFXPayment();
+  const std::string& FXCurrencyCode() const { return model_.FXCurrencyCode(); }
+  void SetFXCurrencyCode(const std::string& code);
+
+  // Shows the window modally; returns once accept or cancel has hidden it.
+  void Show();
+  void Move(int left, int top) { surface_->Move(left, top); }
+  // For callers that style the grid or propose a first line.
+  platform::Grid& Grid() { return grid_; }
+  platform::DialogSurface& Surface() { return *surface_; }
+  const DistributionModel& Model() const { return model_; }
+
+ private:
+  void WireGrid();
+  void ShowFooters();
+  void FocusGrid();
+  void FocusAccept();
+  void KeepOffDeleteColumn();
+  void Inform(const std::string& text);
+  void AfterLinesChanged(bool fill);
+  void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
+  void OnAfterColUpdate(int column);
+  void OnAfterUpdate();
+  void OnKeyDown(platform::KeyDown& key);
+  void OnNewRowRequest();
+  void OnActivate();
+  void OnAccept();
+  void OnCancel();
+
+  platform::HostServices& host_;
+  std::unique_ptr<platform::DialogSurface> surface_;
+  DistributionModel model_;
+  platform::Grid& grid_;
+  platform::TextBox& payment_for_;
+  platform::Button& accept_;
+  platform::Button& cancel_;
+  platform::Widget& frame_;
+  platform::Widget& shape_;
+};
+
+}  // namespace zenta
