@@ -430,16 +430,5 @@ TEST(DistributionPaymentFor, UpperCasePrintableWithoutQuotes) {
   EXPECT_EQ(Model::FilterPaymentForKey(8), 8);
 }
 
-TEST(DistributionCaptions, NameTheForeignCurrency) {
-  Model model;
-  model.SetFXCurrencyCode("USD");
-  EXPECT_EQ(model.PaymentColumnCaption(), "Expense (USD)");
-  EXPECT_EQ(Model::PlainPaymentColumnCaption(), "Expense");
-  model.SetIsFXPayment(true);
-  EXPECT_EQ(model.AmountColumn(), 3);
-  model.SetIsFXPayment(false);
-  EXPECT_EQ(model.AmountColumn(), 2);
-}
-
 }  // namespace
 }  // namespace zenta

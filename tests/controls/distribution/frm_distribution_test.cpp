@@ -341,13 +341,6 @@ TEST_F(FrmDistributionTest, OneWindowServesEveryCallerAndKeepsItsFields) {
   EXPECT_EQ(second.PaymentFor().ToString(), "RENT");
 }
 
-TEST_F(FrmDistributionTest, CountsLinesUpToTheLastAmount) {
-  Prepare("3.00", {{"5100", "1.00"}, {"", ""}, {"5300", "2.00"}});
-  EXPECT_EQ(Dialog().DistributionCount(), 3);
-  Prepare("0", {{"5100", ""}});
-  EXPECT_EQ(Dialog().DistributionCount(), 0);
-}
-
 TEST_F(FrmDistributionTest, AnUnreadableAmountGivesAnEmptyTotalAndNeverAccepts) {
   Prepare("100.00", {{"5100", "abc"}});
   EXPECT_TRUE(Dialog().CalculateDistAmounts().IsEmpty());

@@ -3,7 +3,6 @@
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
 #include "zenta/core/ole_color.h"
-#include "zenta/core/utf8.h"
 #include "zenta/platform/keys.h"
 
 namespace zenta {
@@ -11,7 +10,7 @@ namespace zenta {
 namespace {
 
 using platform::TwipsRect;
-using Column = DistributionModel;
+using Column = DistributionModel;  // for its column numbers
 
 constexpr const char* kRefusedTitle = "Cannot accept distibution.";
 constexpr int kTotalsMessage = 10;
@@ -190,7 +189,6 @@ void FrmDistribution::SetIsFXPayment(bool fx) {
 
 void FrmDistribution::SetFXPayment() {
   platform::GridEngine& engine = grid_.Engine();
-  model_.SetIsFXPayment(model_.IsFXPayment());
   if (model_.IsFXPayment()) {
     engine.SetColumnVisible(Column::kHomeColumn, true);
     return;
