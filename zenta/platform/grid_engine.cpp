@@ -590,7 +590,8 @@ void GridEngine::TypeCharacter(char32_t character) {
   const std::weak_ptr<bool> token = alive_;
   // Enter, Tab and Escape are handled as key-downs; other control characters type nothing.
   if (!current_row_ || (character < 32 && character != keys::kBackspace)) return;
-  if (!editing_ && !CellEditable(current_column_)) return;
+  // key_press sees keys on locked and button cells too (a control may answer them); such a
+  // cell still takes no typing, as OpenEdit refuses it.
   CellKeyPressArgs args;
   args.key = character;
   args.column = current_column_;

@@ -51,8 +51,9 @@ class GridView {
 // source.
 //
 // The steps, as a person meets them:
-//  - Typing a character: key_down, then key_press (may discard it). With no edit open the cell
-//    must be editable (not locked, not a button); new_row_request runs first in the add-new
+//  - Typing a character: key_down, then key_press (may discard it; it runs on locked and
+//    button cells too). With no edit open the cell must then be editable (not locked, not a
+//    button); new_row_request runs first in the add-new
 //    row; before_col_edit may cancel; the edit opens with the cell's text all selected, and
 //    the key replaces the selection. Then change.
 //  - Ending a cell edit (Enter, Tab, arrows, another cell, focus leaving, CommitEdit):

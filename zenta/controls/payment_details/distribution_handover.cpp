@@ -1,0 +1,82 @@
+#include "zenta/controls/payment_details/distribution_handover.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+#include "zenta/core/host_error.h"
+
+namespace zenta {
+
+namespace {
+
+constexpr int kAccountColumn = 1;
+constexpr int kAmountColumn = 2;
+constexpr int kLastColumn = 3;
+constexpr int kMinimumRows = 5;
+constexpr std::int64_t kOverlap = 20;
+
+int Checked(std::int64_t twips) {
+  if (twips < std::numeric_limits<int>::min() || twips > std::numeric_limits<int>::max()) {
+    throw HostError::Overflow("PaymentDetails");
+  }
+  return static_cast<int>(twips);
+}
+
+std::int64_t Frame(const platform::WindowMetrics& window, bool across) {
+  return across ? std::int64_t{window.width} - window.scale_width : std::int64_t{window.height} - window.scale_height;
+}
+
+bool IsEmptyCell(const Variant& value) {
+  if (value.IsEmpty() || value.IsNull()) return true;
+  return value.GetType() == Variant::Type::String && value.ToString().empty();
+}
+
+}  // namespace
+
+DialogPlacement PlaceBelowRow(const platform::ContainerMetrics& where, int first_row_top, int row_height) {
+  const platform::WindowMetrics& c = where.container;
+  std::int64_t left = std::int64_t{c.left} + where.control_left;
+  std::int64_t top = std::int64_t{c.top} + where.control_top;
+  const platform::WindowMetrics& form = where.container_is_form ? c : where.parent_form;
+  if (!where.container_is_form) {
+    left += form.left;
+    top += form.top;
+  }
+  left += Frame(form, true);
+  top += Frame(form, false) + first_row_top + row_height - kOverlap;
+  return {Checked(left), Checked(top)};
+}
+
+std::shared_ptr<platform::Array2D> LinesForDialog(const clsDistributions& lines) {
+  const int rows = std::max(lines.Count(), kMinimumRows);
+  auto table = std::make_shared<platform::Array2D>(0, rows - 1, 0, kLastColumn);
+  int row = 0;
+  for (const auto& line : lines) {
+    if (line->Amount != Currency()) {
+      table->Set(row, kAccountColumn, Variant(line->GLAccount));
+      table->Set(row, kAmountColumn, Variant(line->Amount));
+    }
+    ++row;
+  }
+  return table;
+}
+
+void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines) {
+  lines.Clear();
+  if (table.RowCount() == 0) return;
+  for (int row = table.LowerBound(1); row <= table.UpperBound(1); ++row) {
+    const Variant& amount = table.Get(row, kAmountColumn);
+    if (IsEmptyCell(amount)) continue;
+    const Variant& account = table.Get(row, kAccountColumn);
+    lines.Add(Variant(), IsEmptyCell(account) ? std::string() : account.ToString(), amount.ToCurrency());
+  }
+}
+
+Currency SumOfLines(const clsDistributions& lines) {
+  Currency sum;
+  for (const auto& line : lines) sum += line->Amount;
+  return sum;
+}
+
+}  // namespace zenta

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+
+#include "zenta/core/currency.h"
+#include "zenta/platform/array_2d.h"
+#include "zenta/platform/container_metrics.h"
+#include "zenta/records/cls_distributions.h"
+
+namespace zenta {
+
+// Where the distribution window goes, in the host's twips: just below the payment row.
+struct DialogPlacement {
+  int left = 0;
+  int top = 0;
+};
+
+// The whole outer-minus-scale difference of the form counts as its frame, and the window
+// overlaps the row's lower edge by 20 twips. Raises Overflow rather than wrapping.
+DialogPlacement PlaceBelowRow(const platform::ContainerMetrics& where, int first_row_top, int row_height);
+
+// The dialog's line table for a payment's lines: row i-1 holds line i (account in column 1,
+// amount in column 2); a line of amount 0 leaves its row empty but still takes it. At least
+// five rows.
+std::shared_ptr<platform::Array2D> LinesForDialog(const clsDistributions& lines);
+
+// The accepted table back into `lines`: cleared, then one line per row whose amount is not
+// empty, in row order, with no key.
+void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines);
+
+Currency SumOfLines(const clsDistributions& lines);
+
+}  // namespace zenta
