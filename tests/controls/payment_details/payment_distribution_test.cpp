@@ -63,7 +63,7 @@ TEST_F(PaymentDistributionTest, CancellingKeepsTheLinesAndPaymentForButStillAnno
     user.Click(Cancel());
   });
   user.ClickCell(Grid(), 0, 0);
-  user.PressTab();
+  user.PressEnter();  // as Tab
   EXPECT_EQ(form.PendingDialogScripts(), 0u);
   EXPECT_EQ(control.PayDistribution(), lines);
   EXPECT_EQ(Line(1), "5100 70");
