@@ -78,6 +78,7 @@ void ControlWidget::NotifyChanges() const noexcept {
   notifying_ = true;
   try {
     const QMetaObject* meta = metaObject();
+    QList<int> emitted;  // a signal shared by two readings of one value goes out once
     for (int i = 0; i < meta->propertyCount(); ++i) {
       const QMetaProperty property = meta->property(i);
       if (!property.hasNotifySignal() || i < ControlWidget::staticMetaObject.propertyOffset()) continue;
@@ -86,6 +87,8 @@ void ControlWidget::NotifyChanges() const noexcept {
       if (inserted) continue;
       if (it->second == value) continue;
       it->second = std::move(value);
+      if (emitted.contains(property.notifySignalIndex())) continue;
+      emitted.append(property.notifySignalIndex());
       property.notifySignal().invoke(const_cast<ControlWidget*>(this), Qt::DirectConnection);
     }
   } catch (...) {
@@ -142,6 +145,10 @@ void ControlWidget::SetEnabled(bool enabled) {
 }
 
 void ControlWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange && surface_) {
+    setMinimumSize(minimumSizeHint());
+    updateGeometry();
+  }
   // QWidget::setEnabled on this widget (not a parent's) is the control's Enabled.
   if (event->type() == QEvent::EnabledChange && control_) {
     const bool own = !testAttribute(Qt::WA_ForceDisabled);
@@ -173,8 +180,7 @@ void ControlWidget::WriteProperties(platform::PropertyBag& bag) const { control_
 
 QSize ControlWidget::minimumSizeHint() const {
   if (!control_ || !surface_) return QWidget::minimumSizeHint();
-  return QSize(surface_->ToPixels(control_->MinimumWidth(), Qt::Horizontal),
-               surface_->ToPixels(control_->MinimumHeight(), Qt::Vertical));
+  return surface_->FittedSize(control_->MinimumWidth(), control_->MinimumHeight());
 }
 
 QSize ControlWidget::sizeHint() const { return minimumSizeHint(); }
