@@ -44,6 +44,12 @@ class ControlWidget : public QWidget {
   bool Enabled() const;
   void SetEnabled(bool enabled);
 
+  // The setters code generated from a Designer form calls; the per-field properties are set
+  // in code. Enabled is QWidget::setEnabled, one state with the Enabled property.
+  void setBackColor(const QColor& color) { SetBackColor(color); }
+  void setBusinessMode(bool on) { SetBusinessMode(on); }
+  void setBackColorTitle(const QColor& color) { SetBackColorTitle(color); }
+
   // Ends the amount the payer is still typing as leaving the field would (money typed without a
   // "." is read as cents) while the focus stays where it is. The amount getters call it, so a
   // host that reads them from a shortcut that keeps the focus in the field (Alt+P on its own Pay

@@ -17,22 +17,22 @@ namespace zenta::qt {
 // 100 to 9999, an amount that is not one and a StatementOnly outside 16 bits are refused.
 class GovtDetails : public ControlWidget {
   Q_OBJECT
-  Q_PROPERTY(QDate PeriodFrom READ PeriodFrom WRITE SetPeriodFrom NOTIFY PeriodFromChanged STORED false)
-  Q_PROPERTY(QDate PeriodTo READ PeriodTo WRITE SetPeriodTo NOTIFY PeriodToChanged STORED false)
-  Q_PROPERTY(QDate DueDate READ DueDate WRITE SetDueDate NOTIFY DueDateChanged STORED false)
+  Q_PROPERTY(QDate PeriodFrom READ PeriodFrom WRITE SetPeriodFrom NOTIFY PeriodFromChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(QDate PeriodTo READ PeriodTo WRITE SetPeriodTo NOTIFY PeriodToChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(QDate DueDate READ DueDate WRITE SetDueDate NOTIFY DueDateChanged STORED false DESIGNABLE false)
   Q_PROPERTY(QVariant StatementOnly READ StatementOnly WRITE SetStatementOnly NOTIFY StatementOnlyChanged STORED false DESIGNABLE false)
-  Q_PROPERTY(QString Comments READ Comments WRITE SetComments NOTIFY CommentsChanged STORED false)
+  Q_PROPERTY(QString Comments READ Comments WRITE SetComments NOTIFY CommentsChanged STORED false DESIGNABLE false)
   Q_PROPERTY(QVariant OtherAmount READ OtherAmount WRITE SetOtherAmount NOTIFY OtherAmountChanged STORED false DESIGNABLE false)
   Q_PROPERTY(QVariant Amount READ Amount WRITE SetAmount NOTIFY AmountChanged STORED false DESIGNABLE false)
-  Q_PROPERTY(short GridNumberofRows READ GridNumberofRows NOTIFY GridNumberofRowsChanged STORED false)
-  Q_PROPERTY(bool StatementOnlyEnabled READ StatementOnlyEnabled WRITE SetStatementOnlyEnabled NOTIFY StatementOnlyEnabledChanged STORED false)
-  Q_PROPERTY(bool PeriodFromEnabled READ PeriodFromEnabled WRITE SetPeriodFromEnabled NOTIFY PeriodFromEnabledChanged STORED false)
-  Q_PROPERTY(bool PeriodToEnabled READ PeriodToEnabled WRITE SetPeriodToEnabled NOTIFY PeriodToEnabledChanged STORED false)
-  Q_PROPERTY(bool DueDateEnabled READ DueDateEnabled WRITE SetDueDateEnabled NOTIFY DueDateEnabledChanged STORED false)
-  Q_PROPERTY(bool CommentsEnabled READ CommentsEnabled WRITE SetCommentsEnabled NOTIFY CommentsEnabledChanged STORED false)
-  Q_PROPERTY(bool OtherAmountEnabled READ OtherAmountEnabled WRITE SetOtherAmountEnabled NOTIFY OtherAmountEnabledChanged STORED false)
-  Q_PROPERTY(bool AmountEnabled READ AmountEnabled WRITE SetAmountEnabled NOTIFY AmountEnabledChanged STORED false)
-  Q_PROPERTY(bool GridEnabled READ GridEnabled WRITE SetGridEnabled NOTIFY GridEnabledChanged STORED false)
+  Q_PROPERTY(short GridNumberofRows READ GridNumberofRows NOTIFY GridNumberofRowsChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool StatementOnlyEnabled READ StatementOnlyEnabled WRITE SetStatementOnlyEnabled NOTIFY StatementOnlyEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool PeriodFromEnabled READ PeriodFromEnabled WRITE SetPeriodFromEnabled NOTIFY PeriodFromEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool PeriodToEnabled READ PeriodToEnabled WRITE SetPeriodToEnabled NOTIFY PeriodToEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool DueDateEnabled READ DueDateEnabled WRITE SetDueDateEnabled NOTIFY DueDateEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool CommentsEnabled READ CommentsEnabled WRITE SetCommentsEnabled NOTIFY CommentsEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool OtherAmountEnabled READ OtherAmountEnabled WRITE SetOtherAmountEnabled NOTIFY OtherAmountEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool AmountEnabled READ AmountEnabled WRITE SetAmountEnabled NOTIFY AmountEnabledChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(bool GridEnabled READ GridEnabled WRITE SetGridEnabled NOTIFY GridEnabledChanged STORED false DESIGNABLE false)
 
  public:
   explicit GovtDetails(QWidget* parent = nullptr);

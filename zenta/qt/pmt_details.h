@@ -16,22 +16,22 @@ namespace zenta::qt {
 // amounts exact, the ones to book. Reading an amount first finishes the amount being typed.
 class PmtDetails : public ControlWidget {
   Q_OBJECT
-  Q_PROPERTY(QDate InvoiceDate READ InvoiceDate WRITE SetInvoiceDate NOTIFY InvoiceDateChanged STORED false)
-  Q_PROPERTY(QString InvoiceNumber READ InvoiceNumber WRITE SetInvoiceNumber NOTIFY InvoiceNumberChanged STORED false)
-  Q_PROPERTY(float InvoiceAmount READ InvoiceAmount WRITE SetInvoiceAmount NOTIFY InvoiceAmountChanged STORED false)
+  Q_PROPERTY(QDate InvoiceDate READ InvoiceDate WRITE SetInvoiceDate NOTIFY InvoiceDateChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(QString InvoiceNumber READ InvoiceNumber WRITE SetInvoiceNumber NOTIFY InvoiceNumberChanged STORED false DESIGNABLE false)
+  Q_PROPERTY(float InvoiceAmount READ InvoiceAmount WRITE SetInvoiceAmount NOTIFY InvoiceAmountChanged STORED false DESIGNABLE false)
   Q_PROPERTY(zenta::Currency InvoiceAmountCurrency READ InvoiceAmountCurrency NOTIFY InvoiceAmountChanged
                  STORED false DESIGNABLE false)
-  Q_PROPERTY(float GSTAmount READ GSTAmount WRITE SetGSTAmount NOTIFY GSTAmountChanged STORED false)
+  Q_PROPERTY(float GSTAmount READ GSTAmount WRITE SetGSTAmount NOTIFY GSTAmountChanged STORED false DESIGNABLE false)
   Q_PROPERTY(zenta::Currency GSTAmountCurrency READ GSTAmountCurrency NOTIFY GSTAmountChanged STORED false
                  DESIGNABLE false)
   Q_PROPERTY(bool InvoiceDateEnabled READ InvoiceDateEnabled WRITE SetInvoiceDateEnabled NOTIFY
-                 InvoiceDateEnabledChanged STORED false)
+                 InvoiceDateEnabledChanged STORED false DESIGNABLE false)
   Q_PROPERTY(bool InvoiceNumberEnabled READ InvoiceNumberEnabled WRITE SetInvoiceNumberEnabled NOTIFY
-                 InvoiceNumberEnabledChanged STORED false)
+                 InvoiceNumberEnabledChanged STORED false DESIGNABLE false)
   Q_PROPERTY(bool InvoiceAmountEnabled READ InvoiceAmountEnabled WRITE SetInvoiceAmountEnabled NOTIFY
-                 InvoiceAmountEnabledChanged STORED false)
+                 InvoiceAmountEnabledChanged STORED false DESIGNABLE false)
   Q_PROPERTY(bool GSTAmountEnabled READ GSTAmountEnabled WRITE SetGSTAmountEnabled NOTIFY GSTAmountEnabledChanged
-                 STORED false)
+                 STORED false DESIGNABLE false)
 
  public:
   explicit PmtDetails(QWidget* parent = nullptr);

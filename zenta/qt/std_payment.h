@@ -15,15 +15,15 @@ namespace zenta::qt {
 // Reading an amount first finishes the amount being typed (FinishEdit).
 class StdPayment : public ControlWidget {
   Q_OBJECT
-  Q_PROPERTY(float PaymentAmount READ PaymentAmount WRITE SetPaymentAmount NOTIFY PaymentAmountChanged STORED false)
+  Q_PROPERTY(float PaymentAmount READ PaymentAmount WRITE SetPaymentAmount NOTIFY PaymentAmountChanged STORED false DESIGNABLE false)
   Q_PROPERTY(zenta::Currency PaymentAmountCurrency READ PaymentAmountCurrency NOTIFY PaymentAmountChanged
                  STORED false DESIGNABLE false)
   Q_PROPERTY(zenta::Currency GSTAmount READ GSTAmount WRITE SetGSTAmount NOTIFY GSTAmountChanged STORED false
                  DESIGNABLE false)
   Q_PROPERTY(bool PaymentAmountEnabled READ PaymentAmountEnabled WRITE SetPaymentAmountEnabled NOTIFY
-                 PaymentAmountEnabledChanged STORED false)
+                 PaymentAmountEnabledChanged STORED false DESIGNABLE false)
   Q_PROPERTY(bool GSTAmountEnabled READ GSTAmountEnabled WRITE SetGSTAmountEnabled NOTIFY GSTAmountEnabledChanged
-                 STORED false)
+                 STORED false DESIGNABLE false)
 
  public:
   explicit StdPayment(QWidget* parent = nullptr);
