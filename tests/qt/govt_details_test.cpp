@@ -93,6 +93,12 @@ class GovtDetailsTest : public QObject {
     QVERIFY(box);
     QCOMPARE(box->font().pointSize(), points);
     QVERIFY2(box->width() >= box->sizeHint().width(), qPrintable(QString::number(box->width())));
+    // and the control, at its smallest, is wide enough to show it
+    window_->resize(1, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(remittance_->width(), remittance_->minimumWidth());
+    QVERIFY(box->width() >= box->sizeHint().width());
+    QVERIFY(remittance_->Surface().width() > box->geometry().right());
   }
 
   void changeSignalsFollowTheStatementOnlyBox() {

@@ -183,6 +183,12 @@ QSize ControlWidget::minimumSizeHint() const {
   return surface_->FittedSize(control_->MinimumWidth(), control_->MinimumHeight());
 }
 
+bool ControlWidget::event(QEvent* event) {
+  // The surface asks for more room when the font makes a caption wider.
+  if (event->type() == QEvent::LayoutRequest && control_ && surface_) setMinimumSize(minimumSizeHint());
+  return QWidget::event(event);
+}
+
 QSize ControlWidget::sizeHint() const { return minimumSizeHint(); }
 
 }  // namespace zenta::qt

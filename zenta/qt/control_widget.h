@@ -104,6 +104,7 @@ class ControlWidget : public QWidget {
   // FinishEdit for a getter, unless the getter is being read to look for changes.
   void FinishEditForRead() const;
   void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void ReportCurrentException() const noexcept;

@@ -56,6 +56,7 @@ void QtSurface::Relayout() {
   const double fitted = FontScale(Qt::Horizontal);
   const int design_px = std::max(1, ToPixels(design_right + laid_out_.front().second.left, Qt::Horizontal));
   const double sx = std::max(fitted, static_cast<double>(width()) / design_px);
+  int needed = 0;
   for (const auto& [widget, rect] : laid_out_) {
     if (!widget) continue;
     const QRect px = PixelRect(rect);
@@ -63,14 +64,21 @@ void QtSurface::Relayout() {
     // A caption is never cut: it takes the room its text needs at the current font.
     if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) {
       scaled.setWidth(std::max(scaled.width(), widget->sizeHint().width()));
+      needed = std::max(needed, qRound(px.x() * fitted) + widget->sizeHint().width());
     }
     scaled.setHeight(std::max(scaled.height(), widget->minimumSizeHint().height()));
     widget->setGeometry(scaled);
   }
+  needed += ToPixels(laid_out_.front().second.left, Qt::Horizontal);
+  if (needed != caption_width_) {
+    caption_width_ = needed;
+    updateGeometry();
+    if (parentWidget()) parentWidget()->updateGeometry();
+  }
 }
 
 QSize QtSurface::FittedSize(int width_twips, int height_twips) const {
-  return QSize(qRound(ToPixels(width_twips, Qt::Horizontal) * FontScale(Qt::Horizontal)),
+  return QSize(std::max(caption_width_, qRound(ToPixels(width_twips, Qt::Horizontal) * FontScale(Qt::Horizontal))),
                qRound(ToPixels(height_twips, Qt::Vertical) * FontScale(Qt::Vertical)));
 }
 
@@ -204,7 +212,7 @@ bool QtSurface::eventFilter(QObject* watched, QEvent* event) {
 
 void QtSurface::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::FontChange) Relayout();
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Relayout();
 }
 
 void QtSurface::resizeEvent(QResizeEvent* event) {
@@ -215,6 +223,7 @@ void QtSurface::resizeEvent(QResizeEvent* event) {
 
 void QtSurface::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  Relayout();  // captions measure their final size once polished
   if (shown_once_) return;
   shown_once_ = true;
   if (on_shown_) on_shown_();

@@ -54,7 +54,8 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   // px = twips * logical DPI / 1440, along either axis.
   int ToPixels(int twips, Qt::Orientation axis = Qt::Horizontal) const;
   int ToTwips(int pixels, Qt::Orientation axis = Qt::Horizontal) const;
-  // A size in twips of the drawn layout, in pixels at the current font.
+  // A size in twips of the drawn layout, in pixels at the current font, and wide enough for
+  // every caption.
   QSize FittedSize(int width_twips, int height_twips) const;
 
  protected:
@@ -79,6 +80,7 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   OleColor back_color_ = colors::kButtonFace;
   bool user_mode_ = true;
   bool shown_once_ = false;
+  int caption_width_ = 0;
   std::function<void(platform::KeyDown&)> on_key_down_;
   platform::Callback on_resize_;
   platform::Callback on_shown_;
