@@ -94,15 +94,20 @@ QStringList DemoWindow::HostValues() const {
   QStringList lines;
   lines << QString("StdPayment1.BusinessMode = %1").arg(payment_->BusinessMode() ? "True" : "False")
         << QString("StdPayment1.PaymentAmount = %1").arg(payment_->PaymentAmount(), 0, 'f', 2)
+        << QString("StdPayment1.PaymentAmountCurrency = %1").arg(qt::ToQString(payment_->PaymentAmountCurrency()))
         << QString("StdPayment1.GSTAmount = %1").arg(QString::fromStdString(payment_->GSTAmount().ToString()))
         << QString("PmtDetails1.InvoiceDate = %1").arg(DateText(invoice_->InvoiceDate()))
         << QString("PmtDetails1.InvoiceNumber = \"%1\"").arg(invoice_->InvoiceNumber())
         << QString("PmtDetails1.InvoiceAmount = %1").arg(invoice_->InvoiceAmount(), 0, 'f', 2)
+        << QString("PmtDetails1.InvoiceAmountCurrency = %1").arg(qt::ToQString(invoice_->InvoiceAmountCurrency()))
         << QString("PmtDetails1.GSTAmount = %1").arg(invoice_->GSTAmount(), 0, 'f', 2)
+        << QString("PmtDetails1.GSTAmountCurrency = %1").arg(qt::ToQString(invoice_->GSTAmountCurrency()))
         << QString("GovtDetails1.StatementOnly = %1").arg(remittance_->StatementOnly().toInt())
         << QString("GovtDetails1.PeriodFrom = %1").arg(DateText(remittance_->PeriodFrom()))
+        << QString("GovtDetails1.PeriodTo = %1").arg(DateText(remittance_->PeriodTo()))
         << QString("GovtDetails1.DueDate = %1").arg(DateText(remittance_->DueDate()))
         << QString("GovtDetails1.Amount = %1").arg(AmountText(remittance_->Amount()))
+        << QString("GovtDetails1.OtherAmount = %1").arg(AmountText(remittance_->OtherAmount()))
         << QString("GovtDetails1.Comments = \"%1\"").arg(remittance_->Comments())
         << QString("GovtDetails1.GridNumberofRows = %1").arg(remittance_->GridNumberofRows());
   // Reading an item makes its row current: leave the grid alone while the payer is in it.

@@ -95,6 +95,13 @@ std::string Date::ToText() const {
   return buffer;
 }
 
+bool Date::InRange() const { return day_ >= kFirstDay && day_ <= kLastDay; }
+
+Date Date::CheckedForField(const std::string& source) const {
+  if (!InRange()) throw HostError::Object(kOutOfRange, source, "Dates must range from 0100/01/01 to 9999/12/31");
+  return *this;
+}
+
 Date Date::AddDays(std::int32_t days) const { return CheckedDate(std::int64_t{day_} + days); }
 
 Date Date::AddYears(int years) const {

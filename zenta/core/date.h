@@ -32,6 +32,13 @@ class Date {
   // "yyyy/mm/dd".
   std::string ToText() const;
 
+  // Within years 100 to 9999, the dates a field can show.
+  bool InRange() const;
+  // Refuses a date from outside that range, given by a host to the field named `source`:
+  // HostError kOutOfRange (0x80040015), "Dates must range from 0100/01/01 to 9999/12/31".
+  Date CheckedForField(const std::string& source) const;
+  static constexpr std::int32_t kOutOfRange = 21;
+
   // Date arithmetic raises HostError::Overflow when the result leaves years 100 to 9999.
   Date AddDays(std::int32_t days) const;
   // Same day in a later or earlier year; 29 February becomes 28 February in a common year.

@@ -4,14 +4,12 @@
 #include <QSettings>
 #include <QVariantList>
 #include <QWidget>
+#include <map>
 #include <memory>
 
 #include "zenta/platform/property_bag.h"
 #include "zenta/platform/raised_event.h"
-
-namespace zenta {
-class SmallControl;
-}
+#include "zenta/qt/control_binding.h"
 
 namespace zenta::qt {
 
@@ -19,9 +17,14 @@ class QtHost;
 class QtSurface;
 
 // What every Zenta control widget shares: the surface its control logic runs on, the host
-// services, the four persisted properties as Q_PROPERTYs, and every event as EventRaised (by
-// number, for late-bound hosts) next to the control's own typed signals. A widget created in
-// code starts as if loaded with default properties.
+// services, the common properties as Q_PROPERTYs, and every event as EventRaised (by number, for
+// late-bound hosts) next to the control's own typed signals. A widget created in code starts as
+// if loaded with default properties.
+//
+// No exception leaves a Qt member: a value the control refuses leaves the property as it was and
+// is reported by HostErrorRaised with the error's number (0x80040014 reads as such), source and
+// description. Every value property has a NOTIFY signal, emitted when the value changes, typed
+// or set. QWidget::setEnabled and the Enabled property are one state.
 class ControlWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor NOTIFY BackColorChanged)
@@ -41,6 +44,18 @@ class ControlWidget : public QWidget {
   bool Enabled() const;
   void SetEnabled(bool enabled);
 
+  // The setters code generated from a Designer form calls; the per-field properties are set
+  // in code. Enabled is QWidget::setEnabled, one state with the Enabled property.
+  void setBackColor(const QColor& color) { SetBackColor(color); }
+  void setBusinessMode(bool on) { SetBusinessMode(on); }
+  void setBackColorTitle(const QColor& color) { SetBackColorTitle(color); }
+
+  // Ends the amount the payer is still typing as leaving the field would (money typed without a
+  // "." is read as cents) while the focus stays where it is. The amount getters call it, so a
+  // host that reads them from a shortcut that keeps the focus in the field (Alt+P on its own Pay
+  // button) reads 12.50, not 1250.
+  Q_INVOKABLE void FinishEdit();
+
   // Persistence in the host's store: a QSettings group, or any property bag.
   Q_INVOKABLE void LoadProperties(QSettings* settings, const QString& group);
   Q_INVOKABLE void SaveProperties(QSettings* settings, const QString& group) const;
@@ -56,6 +71,7 @@ class ControlWidget : public QWidget {
  signals:
   // Every event by its number; a connected slot may change the in/out arguments.
   void EventRaised(int number, const QString& name, QVariantList& args);
+  void HostErrorRaised(quint32 number, const QString& source, const QString& description);
   void BackColorChanged();
   void BusinessModeChanged();
   void BackColorTitleChanged();
@@ -64,7 +80,7 @@ class ControlWidget : public QWidget {
  protected:
   explicit ControlWidget(QWidget* parent);
   // Called by the subclass once its control exists.
-  void Attach(SmallControl& control);
+  void Attach(std::unique_ptr<ControlBinding> binding);
   QtHost& Host() const { return *host_; }
   // Deletes the child widgets while the control that handles their notifications still exists;
   // subclasses call it first in their destructor.
@@ -72,10 +88,34 @@ class ControlWidget : public QWidget {
   // Emits the typed signal for an event the control raised.
   virtual void EmitTyped(platform::RaisedEvent& event) = 0;
 
+  // Runs a call into the control; a refusal becomes HostErrorRaised and false. Afterwards the
+  // NOTIFY signals of the properties it changed are emitted.
+  template <class Call>
+  bool Guard(Call&& call) const noexcept {
+    try {
+      call();
+    } catch (...) {
+      ReportCurrentException();
+      return false;
+    }
+    NotifyChanges();
+    return true;
+  }
+  // FinishEdit for a getter, unless the getter is being read to look for changes.
+  void FinishEditForRead() const;
+  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+
  private:
+  void ReportCurrentException() const noexcept;
+  void NotifyChanges() const noexcept;
+  void WatchChildren();
+
   QtSurface* surface_;
   std::unique_ptr<QtHost> host_;
-  SmallControl* control_ = nullptr;
+  std::unique_ptr<ControlBinding> control_;
+  mutable std::map<int, QVariant> last_values_;
+  mutable bool notifying_ = false;
 };
 
 }  // namespace zenta::qt

@@ -1,8 +1,5 @@
 #include "zenta/qt/govt_details.h"
 
-#include "zenta/controls/simple/govt_details.h"
-#include "zenta/core/host_error.h"
-#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -10,7 +7,7 @@ namespace zenta::qt {
 
 GovtDetails::GovtDetails(QWidget* parent)
     : ControlWidget(parent), control_(std::make_unique<zenta::GovtDetails>(Surface(), Host())) {
-  Attach(*control_);
+  Attach(std::make_unique<BindingTo<zenta::GovtDetails>>(*control_));
 }
 
 GovtDetails::~GovtDetails() { DestroySurface(); }
@@ -23,57 +20,61 @@ void GovtDetails::EmitTyped(platform::RaisedEvent& event) {
   }
 }
 
-void GovtDetails::Clear() { control_->Clear(); }
-QString GovtDetails::GridValues(short TheRow) const { return ToQString(control_->GridValues(TheRow)); }
-void GovtDetails::SetGridValues(short TheRow, const QString& value) { control_->SetGridValues(TheRow, FromQString(value)); }
+void GovtDetails::Clear() { Guard([&] { control_->Clear(); }); }
+QString GovtDetails::GridValues(short TheRow) const {
+  QString value;
+  Guard([&] { value = ToQString(control_->GridValues(TheRow)); });
+  return value;
+}
+void GovtDetails::SetGridValues(short TheRow, const QString& value) { Guard([&] { control_->SetGridValues(TheRow, FromQString(value)); }); }
 
 bool GovtDetails::SetRows(short NumberofRows) {
-  try {
-    control_->SetRows(NumberofRows);
-    return true;
-  } catch (const HostError& error) {
-    emit HostErrorRaised(error.Number(), ToQString(error.Source()), ToQString(error.Description()));
-    return false;
-  }
+  return Guard([&] { control_->SetRows(NumberofRows); });
 }
 
-void GovtDetails::SetFocusPeriodFrom() { control_->SetFocusPeriodFrom(); }
-void GovtDetails::SetFocusPeriodTo() { control_->SetFocusPeriodTo(); }
-void GovtDetails::SetFocusDueDate() { control_->SetFocusDueDate(); }
-void GovtDetails::SetFocusGrid() { control_->SetFocusGrid(); }
-void GovtDetails::SetFocusComment() { control_->SetFocusComment(); }
-void GovtDetails::SetFocusAmount() { control_->SetFocusAmount(); }
+void GovtDetails::SetFocusPeriodFrom() { Guard([&] { control_->SetFocusPeriodFrom(); }); }
+void GovtDetails::SetFocusPeriodTo() { Guard([&] { control_->SetFocusPeriodTo(); }); }
+void GovtDetails::SetFocusDueDate() { Guard([&] { control_->SetFocusDueDate(); }); }
+void GovtDetails::SetFocusGrid() { Guard([&] { control_->SetFocusGrid(); }); }
+void GovtDetails::SetFocusComment() { Guard([&] { control_->SetFocusComment(); }); }
+void GovtDetails::SetFocusAmount() { Guard([&] { control_->SetFocusAmount(); }); }
 
 QDate GovtDetails::PeriodFrom() const { return ToQDate(control_->PeriodFrom()); }
-void GovtDetails::SetPeriodFrom(const QDate& value) { control_->SetPeriodFrom(FromQDate(value)); }
+void GovtDetails::SetPeriodFrom(const QDate& value) { Guard([&] { control_->SetPeriodFrom(FromQDate(value, "dtPeriodFrom")); }); }
 QDate GovtDetails::PeriodTo() const { return ToQDate(control_->PeriodTo()); }
-void GovtDetails::SetPeriodTo(const QDate& value) { control_->SetPeriodTo(FromQDate(value)); }
+void GovtDetails::SetPeriodTo(const QDate& value) { Guard([&] { control_->SetPeriodTo(FromQDate(value, "dtPeriodTo")); }); }
 QDate GovtDetails::DueDate() const { return ToQDate(control_->DueDate()); }
-void GovtDetails::SetDueDate(const QDate& value) { control_->SetDueDate(FromQDate(value)); }
+void GovtDetails::SetDueDate(const QDate& value) { Guard([&] { control_->SetDueDate(FromQDate(value, "dtDueDate")); }); }
 QVariant GovtDetails::StatementOnly() const { return ToQVariant(control_->StatementOnly()); }
-void GovtDetails::SetStatementOnly(const QVariant& value) { control_->SetStatementOnly(FromQVariant(value)); }
+void GovtDetails::SetStatementOnly(const QVariant& value) { Guard([&] { control_->SetStatementOnly(FromQVariant(value)); }); }
 QString GovtDetails::Comments() const { return ToQString(control_->Comments()); }
-void GovtDetails::SetComments(const QString& value) { control_->SetComments(FromQString(value)); }
-QVariant GovtDetails::OtherAmount() const { return ToQVariant(control_->OtherAmount()); }
-void GovtDetails::SetOtherAmount(const QVariant& value) { control_->SetOtherAmount(FromQVariant(value)); }
-QVariant GovtDetails::Amount() const { return ToQVariant(control_->Amount()); }
-void GovtDetails::SetAmount(const QVariant& value) { control_->SetAmount(FromQVariant(value)); }
+void GovtDetails::SetComments(const QString& value) { Guard([&] { control_->SetComments(FromQString(value)); }); }
+QVariant GovtDetails::OtherAmount() const {
+  FinishEditForRead();
+  return ToQVariant(control_->OtherAmount());
+}
+void GovtDetails::SetOtherAmount(const QVariant& value) { Guard([&] { control_->SetOtherAmount(FromQVariant(value)); }); }
+QVariant GovtDetails::Amount() const {
+  FinishEditForRead();
+  return ToQVariant(control_->Amount());
+}
+void GovtDetails::SetAmount(const QVariant& value) { Guard([&] { control_->SetAmount(FromQVariant(value)); }); }
 short GovtDetails::GridNumberofRows() const { return control_->GridNumberofRows(); }
 bool GovtDetails::StatementOnlyEnabled() const { return control_->StatementOnlyEnabled(); }
-void GovtDetails::SetStatementOnlyEnabled(bool enabled) { control_->SetStatementOnlyEnabled(enabled); }
+void GovtDetails::SetStatementOnlyEnabled(bool enabled) { Guard([&] { control_->SetStatementOnlyEnabled(enabled); }); }
 bool GovtDetails::PeriodFromEnabled() const { return control_->PeriodFromEnabled(); }
-void GovtDetails::SetPeriodFromEnabled(bool enabled) { control_->SetPeriodFromEnabled(enabled); }
+void GovtDetails::SetPeriodFromEnabled(bool enabled) { Guard([&] { control_->SetPeriodFromEnabled(enabled); }); }
 bool GovtDetails::PeriodToEnabled() const { return control_->PeriodToEnabled(); }
-void GovtDetails::SetPeriodToEnabled(bool enabled) { control_->SetPeriodToEnabled(enabled); }
+void GovtDetails::SetPeriodToEnabled(bool enabled) { Guard([&] { control_->SetPeriodToEnabled(enabled); }); }
 bool GovtDetails::DueDateEnabled() const { return control_->DueDateEnabled(); }
-void GovtDetails::SetDueDateEnabled(bool enabled) { control_->SetDueDateEnabled(enabled); }
+void GovtDetails::SetDueDateEnabled(bool enabled) { Guard([&] { control_->SetDueDateEnabled(enabled); }); }
 bool GovtDetails::CommentsEnabled() const { return control_->CommentsEnabled(); }
-void GovtDetails::SetCommentsEnabled(bool enabled) { control_->SetCommentsEnabled(enabled); }
+void GovtDetails::SetCommentsEnabled(bool enabled) { Guard([&] { control_->SetCommentsEnabled(enabled); }); }
 bool GovtDetails::OtherAmountEnabled() const { return control_->OtherAmountEnabled(); }
-void GovtDetails::SetOtherAmountEnabled(bool enabled) { control_->SetOtherAmountEnabled(enabled); }
+void GovtDetails::SetOtherAmountEnabled(bool enabled) { Guard([&] { control_->SetOtherAmountEnabled(enabled); }); }
 bool GovtDetails::AmountEnabled() const { return control_->AmountEnabled(); }
-void GovtDetails::SetAmountEnabled(bool enabled) { control_->SetAmountEnabled(enabled); }
+void GovtDetails::SetAmountEnabled(bool enabled) { Guard([&] { control_->SetAmountEnabled(enabled); }); }
 bool GovtDetails::GridEnabled() const { return control_->GridEnabled(); }
-void GovtDetails::SetGridEnabled(bool enabled) { control_->SetGridEnabled(enabled); }
+void GovtDetails::SetGridEnabled(bool enabled) { Guard([&] { control_->SetGridEnabled(enabled); }); }
 
 }  // namespace zenta::qt

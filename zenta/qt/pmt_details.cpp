@@ -1,7 +1,5 @@
 #include "zenta/qt/pmt_details.h"
 
-#include "zenta/controls/simple/pmt_details.h"
-#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -9,7 +7,7 @@ namespace zenta::qt {
 
 PmtDetails::PmtDetails(QWidget* parent)
     : ControlWidget(parent), control_(std::make_unique<zenta::PmtDetails>(Surface(), Host())) {
-  Attach(*control_);
+  Attach(std::make_unique<BindingTo<zenta::PmtDetails>>(*control_));
 }
 
 PmtDetails::~PmtDetails() { DestroySurface(); }
@@ -23,28 +21,46 @@ void PmtDetails::EmitTyped(platform::RaisedEvent& event) {
   }
 }
 
-void PmtDetails::Clear() { control_->Clear(); }
-void PmtDetails::ShowBusinessMode() { control_->ShowBusinessMode(); }
-void PmtDetails::SetFocusInvoiceDate() { control_->SetFocusInvoiceDate(); }
-void PmtDetails::SetFocusInvoiceNumber() { control_->SetFocusInvoiceNumber(); }
-void PmtDetails::SetFocusInvoiceAmount() { control_->SetFocusInvoiceAmount(); }
-void PmtDetails::SetFocusGSTAmount() { control_->SetFocusGSTAmount(); }
+void PmtDetails::Clear() { Guard([&] { control_->Clear(); }); }
+void PmtDetails::ShowBusinessMode() { Guard([&] { control_->ShowBusinessMode(); }); }
+void PmtDetails::SetFocusInvoiceDate() { Guard([&] { control_->SetFocusInvoiceDate(); }); }
+void PmtDetails::SetFocusInvoiceNumber() { Guard([&] { control_->SetFocusInvoiceNumber(); }); }
+void PmtDetails::SetFocusInvoiceAmount() { Guard([&] { control_->SetFocusInvoiceAmount(); }); }
+void PmtDetails::SetFocusGSTAmount() { Guard([&] { control_->SetFocusGSTAmount(); }); }
 
 QDate PmtDetails::InvoiceDate() const { return ToQDate(control_->InvoiceDate()); }
-void PmtDetails::SetInvoiceDate(const QDate& value) { control_->SetInvoiceDate(FromQDate(value)); }
+void PmtDetails::SetInvoiceDate(const QDate& value) {
+  Guard([&] { control_->SetInvoiceDate(FromQDate(value, "dtInvoiceDate")); });
+}
 QString PmtDetails::InvoiceNumber() const { return ToQString(control_->InvoiceNumber()); }
-void PmtDetails::SetInvoiceNumber(const QString& value) { control_->SetInvoiceNumber(FromQString(value)); }
-float PmtDetails::InvoiceAmount() const { return control_->InvoiceAmount(); }
-void PmtDetails::SetInvoiceAmount(float value) { control_->SetInvoiceAmount(value); }
-float PmtDetails::GSTAmount() const { return control_->GSTAmount(); }
-void PmtDetails::SetGSTAmount(float value) { control_->SetGSTAmount(value); }
+void PmtDetails::SetInvoiceNumber(const QString& value) {
+  Guard([&] { control_->SetInvoiceNumber(FromQString(value)); });
+}
+float PmtDetails::InvoiceAmount() const {
+  FinishEditForRead();
+  return control_->InvoiceAmount();
+}
+void PmtDetails::SetInvoiceAmount(float value) { Guard([&] { control_->SetInvoiceAmount(value); }); }
+Currency PmtDetails::InvoiceAmountCurrency() const {
+  FinishEditForRead();
+  return control_->InvoiceAmountCurrency();
+}
+float PmtDetails::GSTAmount() const {
+  FinishEditForRead();
+  return control_->GSTAmount();
+}
+void PmtDetails::SetGSTAmount(float value) { Guard([&] { control_->SetGSTAmount(value); }); }
+Currency PmtDetails::GSTAmountCurrency() const {
+  FinishEditForRead();
+  return control_->GSTAmountCurrency();
+}
 bool PmtDetails::InvoiceDateEnabled() const { return control_->InvoiceDateEnabled(); }
-void PmtDetails::SetInvoiceDateEnabled(bool enabled) { control_->SetInvoiceDateEnabled(enabled); }
+void PmtDetails::SetInvoiceDateEnabled(bool enabled) { Guard([&] { control_->SetInvoiceDateEnabled(enabled); }); }
 bool PmtDetails::InvoiceNumberEnabled() const { return control_->InvoiceNumberEnabled(); }
-void PmtDetails::SetInvoiceNumberEnabled(bool enabled) { control_->SetInvoiceNumberEnabled(enabled); }
+void PmtDetails::SetInvoiceNumberEnabled(bool enabled) { Guard([&] { control_->SetInvoiceNumberEnabled(enabled); }); }
 bool PmtDetails::InvoiceAmountEnabled() const { return control_->InvoiceAmountEnabled(); }
-void PmtDetails::SetInvoiceAmountEnabled(bool enabled) { control_->SetInvoiceAmountEnabled(enabled); }
+void PmtDetails::SetInvoiceAmountEnabled(bool enabled) { Guard([&] { control_->SetInvoiceAmountEnabled(enabled); }); }
 bool PmtDetails::GSTAmountEnabled() const { return control_->GSTAmountEnabled(); }
-void PmtDetails::SetGSTAmountEnabled(bool enabled) { control_->SetGSTAmountEnabled(enabled); }
+void PmtDetails::SetGSTAmountEnabled(bool enabled) { Guard([&] { control_->SetGSTAmountEnabled(enabled); }); }
 
 }  // namespace zenta::qt

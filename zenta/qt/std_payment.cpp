@@ -1,6 +1,5 @@
 #include "zenta/qt/std_payment.h"
 
-#include "zenta/controls/simple/std_payment.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -8,7 +7,7 @@ namespace zenta::qt {
 
 StdPayment::StdPayment(QWidget* parent)
     : ControlWidget(parent), control_(std::make_unique<zenta::StdPayment>(Surface(), Host())) {
-  Attach(*control_);
+  Attach(std::make_unique<BindingTo<zenta::StdPayment>>(*control_));
 }
 
 StdPayment::~StdPayment() { DestroySurface(); }
@@ -22,17 +21,28 @@ void StdPayment::EmitTyped(platform::RaisedEvent& event) {
   }
 }
 
-void StdPayment::Clear() { control_->Clear(); }
-void StdPayment::ShowBusinessMode() { control_->ShowBusinessMode(); }
-void StdPayment::SetFocusPaymentAmount() { control_->SetFocusPaymentAmount(); }
-void StdPayment::SetFocusGSTAmount() { control_->SetFocusGSTAmount(); }
-float StdPayment::PaymentAmount() const { return control_->PaymentAmount(); }
-void StdPayment::SetPaymentAmount(float value) { control_->SetPaymentAmount(value); }
-Currency StdPayment::GSTAmount() const { return control_->GSTAmount(); }
-void StdPayment::SetGSTAmount(Currency value) { control_->SetGSTAmount(value); }
+void StdPayment::Clear() { Guard([&] { control_->Clear(); }); }
+void StdPayment::ShowBusinessMode() { Guard([&] { control_->ShowBusinessMode(); }); }
+void StdPayment::SetFocusPaymentAmount() { Guard([&] { control_->SetFocusPaymentAmount(); }); }
+void StdPayment::SetFocusGSTAmount() { Guard([&] { control_->SetFocusGSTAmount(); }); }
+
+float StdPayment::PaymentAmount() const {
+  FinishEditForRead();
+  return control_->PaymentAmount();
+}
+void StdPayment::SetPaymentAmount(float value) { Guard([&] { control_->SetPaymentAmount(value); }); }
+Currency StdPayment::PaymentAmountCurrency() const {
+  FinishEditForRead();
+  return control_->PaymentAmountCurrency();
+}
+Currency StdPayment::GSTAmount() const {
+  FinishEditForRead();
+  return control_->GSTAmount();
+}
+void StdPayment::SetGSTAmount(Currency value) { Guard([&] { control_->SetGSTAmount(value); }); }
 bool StdPayment::PaymentAmountEnabled() const { return control_->PaymentAmountEnabled(); }
-void StdPayment::SetPaymentAmountEnabled(bool enabled) { control_->SetPaymentAmountEnabled(enabled); }
+void StdPayment::SetPaymentAmountEnabled(bool enabled) { Guard([&] { control_->SetPaymentAmountEnabled(enabled); }); }
 bool StdPayment::GSTAmountEnabled() const { return control_->GSTAmountEnabled(); }
-void StdPayment::SetGSTAmountEnabled(bool enabled) { control_->SetGSTAmountEnabled(enabled); }
+void StdPayment::SetGSTAmountEnabled(bool enabled) { Guard([&] { control_->SetGSTAmountEnabled(enabled); }); }
 
 }  // namespace zenta::qt

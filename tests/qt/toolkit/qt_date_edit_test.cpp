@@ -1,7 +1,9 @@
 #include <QCalendarWidget>
+#include <limits>
 
 #include "tests/qt/key_input.h"
 #include "tests/qt/toolkit/test_window.h"
+#include "zenta/core/host_error.h"
 #include "zenta/qt/toolkit/qt_date_edit.h"
 #include "zenta/qt/toolkit/qt_number_edit.h"
 
@@ -60,6 +62,48 @@ class QtDateEditTest : public QObject {
     QVERIFY(!date_->Value());
     QCOMPARE(date_->Text(), std::string("____/__/__"));
     QCOMPARE(lost_, 2);
+  }
+
+  void leavingWithANonDatePutsBackTheLastDate_data() {
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<bool>("hadDate");
+    QTest::newRow("impossible, had a date") << "20261399" << true;
+    QTest::newRow("partial, had a date") << "2026" << true;
+    QTest::newRow("impossible, was empty") << "20261399" << false;
+    QTest::newRow("partial, was empty") << "2026" << false;
+  }
+
+  void leavingWithANonDatePutsBackTheLastDate() {
+    QFETCH(QString, keys);
+    QFETCH(bool, hadDate);
+    if (hadDate) date_->SetValue(Date::Parse("2025/01/31"));
+    date_->Editor().selectAll();
+    Type(keys.toUtf8().constData());
+    Press(Qt::Key_Tab);
+    QCOMPARE(lost_, 1);
+    QCOMPARE(QApplication::focusWidget(), next_);
+    QCOMPARE(date_->Text(), std::string(hadDate ? "2025/01/31" : "____/__/__"));
+    QCOMPARE(date_->Value().has_value(), hadDate);
+    QVERIFY(date_->Refused());
+    QVERIFY(date_->Editor().palette().color(QPalette::Base) != next_->palette().color(QPalette::Base));
+    Press(Qt::Key_Tab, Qt::ShiftModifier);
+    Type("20260101");
+    QVERIFY(!date_->Refused());
+    QCOMPARE(date_->Editor().palette().color(QPalette::Base), next_->palette().color(QPalette::Base));
+  }
+
+  void aHostDateOutsideYears100To9999IsRefused_data() {
+    QTest::addColumn<int>("day");
+    QTest::newRow("smallest day number") << std::numeric_limits<int>::min();
+    QTest::newRow("0099/12/31") << -657435;
+    QTest::newRow("10000/01/01") << 2958466;
+  }
+
+  void aHostDateOutsideYears100To9999IsRefused() {
+    QFETCH(int, day);
+    date_->SetValue(Date::Parse("2025/01/31"));
+    QVERIFY_THROWS_EXCEPTION(HostError, date_->SetValue(Date::FromDayNumber(day)));
+    QCOMPARE(date_->Text(), std::string("2025/01/31"));
   }
 
   void typingAfterTabReplacesTheWholeDate() {

@@ -43,8 +43,30 @@ class QtSurfaceTest : public QObject {
   void childrenSitAtTheirTwipsThroughTheLogicalDpi() {
     const int dpi = surface_->logicalDpiX();
     QtSurface& surface = *surface_;
+    QFont small = surface.font();
+    small.setPointSize(5);  // no wider than the font the rectangles were drawn for
+    surface.setFont(small);
     QWidget& edit = As<QWidget>(surface.AddTextBox({"placed", {1440, 720, 2880, 360}}));
+    surface.setMinimumSize(0, 0);
+    surface.resize(1, surface.height());
     QCOMPARE(edit.geometry(), QRect(dpi, dpi / 2, 2 * dpi, dpi / 4));
+  }
+
+  void aLargerFontOrAWiderSurfaceWidensTheFields() {
+    QtSurface& surface = *surface_;
+    QWidget& edit = As<QWidget>(surface.AddTextBox({"placed", {1440, 720, 2880, 360}}));
+    surface.setMinimumSize(0, 0);
+    surface.resize(1, surface.height());
+    const QRect before = edit.geometry();
+    QFont large = surface.font();
+    large.setPointSize(large.pointSize() * 2);
+    surface.setFont(large);
+    QVERIFY(edit.width() > before.width());
+    QVERIFY(edit.height() > before.height());
+    QVERIFY(surface.FittedSize(1440, 1440).width() > surface.ToPixels(1440));
+    surface.setFont(QFont());
+    surface.resize(4 * surface.width() + 2000, surface.height());
+    QVERIFY(edit.width() > before.width());
   }
 
   void widthAndHeightAreTwipsAndResizeNotifies() {

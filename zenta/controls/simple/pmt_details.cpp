@@ -59,6 +59,8 @@ std::string PmtDetails::InvoiceNumber() const { return w_.invoice_no.Text(); }
 void PmtDetails::SetInvoiceNumber(const std::string& value) { w_.invoice_no.SetText(value); }
 float PmtDetails::InvoiceAmount() const { return entry::AmountAsSingle(w_.invoice_amount); }
 void PmtDetails::SetInvoiceAmount(float value) { entry::SetAmount(w_.invoice_amount, value); }
+Currency PmtDetails::InvoiceAmountCurrency() const { return entry::AmountAsCurrency(w_.invoice_amount); }
+Currency PmtDetails::GSTAmountCurrency() const { return entry::AmountAsCurrency(w_.gst_amount); }
 float PmtDetails::GSTAmount() const { return entry::AmountAsSingle(w_.gst_amount); }
 void PmtDetails::SetGSTAmount(float value) { entry::SetAmount(w_.gst_amount, value); }
 

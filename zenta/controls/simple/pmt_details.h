@@ -5,6 +5,7 @@
 
 #include "zenta/controls/simple/amount_gst_pair.h"
 #include "zenta/controls/simple/small_control.h"
+#include "zenta/core/currency.h"
 #include "zenta/core/date.h"
 
 namespace zenta {
@@ -43,6 +44,9 @@ class PmtDetails : public SmallControl {
   void SetInvoiceAmount(float value);
   float GSTAmount() const;
   void SetGSTAmount(float value);
+  // The two amounts exact, as typed or set: the ones to book.
+  Currency InvoiceAmountCurrency() const;
+  Currency GSTAmountCurrency() const;
 
   bool InvoiceDateEnabled() const;
   void SetInvoiceDateEnabled(bool enabled);

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "zenta/core/ole_color.h"
@@ -56,16 +57,36 @@ class SmallControl {
   // Raises the event to the host by number and returns it with the host's in/out values.
   platform::RaisedEvent Raise(int number, const char* name, std::vector<Variant> args = {});
   // A notification that raises an event by number to the host, then to the typed listener
-  // (read when the event fires, so it may be set later). Arguments go to both.
+  // (read when the event fires, so it may be set later). An in/out argument (a non-const
+  // reference such as `bool& Cancel`) takes the host's answer before the listener sees it, and
+  // the listener's answer is the one the caller reads.
   template <class Listener, class... Args>
   std::function<void(Args...)> EventRaiser(int number, const char* name, Listener* const& listener,
                                            void (Listener::*typed)(Args...)) {
     return [this, number, name, &listener, typed](Args... args) {
-      Raise(number, name, {Variant(args)...});
-      if (listener) (listener->*typed)(args...);
+      platform::RaisedEvent raised = Raise(number, name, {Variant(args)...});
+      std::size_t i = 0;
+      (TakeAnswer<Args>(raised.args.at(i++), args), ...);
+      if (listener) (listener->*typed)(static_cast<Args>(args)...);
     };
   }
 
+ private:
+  template <class Arg, class T>
+  static void TakeAnswer(const Variant& answer, T& arg) {
+    if constexpr (std::is_lvalue_reference_v<Arg> && !std::is_const_v<std::remove_reference_t<Arg>>) {
+      using V = std::remove_reference_t<Arg>;
+      if constexpr (std::is_same_v<V, bool>) arg = answer.ToBool();
+      else if constexpr (std::is_same_v<V, std::int16_t>) arg = answer.ToInteger();
+      else if constexpr (std::is_same_v<V, std::int32_t>) arg = answer.ToLong();
+      else if constexpr (std::is_same_v<V, float>) arg = answer.ToSingle();
+      else if constexpr (std::is_same_v<V, Currency>) arg = answer.ToCurrency();
+      else if constexpr (std::is_same_v<V, std::string>) arg = answer.ToString();
+      else static_assert(sizeof(V) == 0, "no Variant reading for this in/out argument");
+    }
+  }
+
+ protected:
   platform::ControlSurface& surface_;
   platform::HostServices& host_;
 

@@ -38,6 +38,7 @@ void StdPayment::ShowBusinessMode() {
 }
 
 float StdPayment::PaymentAmount() const { return entry::AmountAsSingle(w_.payment_amount); }
+Currency StdPayment::PaymentAmountCurrency() const { return entry::AmountAsCurrency(w_.payment_amount); }
 void StdPayment::SetPaymentAmount(float value) { entry::SetAmount(w_.payment_amount, value); }
 Currency StdPayment::GSTAmount() const { return entry::AmountAsCurrency(w_.gst_amount); }
 void StdPayment::SetGSTAmount(Currency value) { entry::SetAmount(w_.gst_amount, value); }

@@ -36,6 +36,8 @@ class StdPayment : public SmallControl {
 
   float PaymentAmount() const;
   void SetPaymentAmount(float value);
+  // The payment amount exact, as typed or set: the one to book.
+  Currency PaymentAmountCurrency() const;
   Currency GSTAmount() const;
   void SetGSTAmount(Currency value);
   bool PaymentAmountEnabled() const;

@@ -13,7 +13,10 @@ std::optional<Date> DateEditWidget::Value() const {
 }
 
 void DateEditWidget::SetValue(std::optional<Date> value) {
+  if (value) value->CheckedForField(Name());
   digits_.clear();
+  last_valid_ = value;
+  refused_ = false;
   if (!value) return;
   for (char c : value->ToText()) {
     if (c != '/') digits_ += c;
@@ -40,6 +43,7 @@ void DateEditWidget::HandleKeyDown(platform::KeyDown& key) {
 }
 
 void DateEditWidget::HandleCharacter(char32_t character) {
+  refused_ = false;
   const bool digit = character >= U'0' && character <= U'9';
   if (all_selected_ && (digit || character == platform::keys::kBackspace)) {
     digits_.clear();
@@ -57,6 +61,14 @@ void DateEditWidget::FocusGained() { all_selected_ = true; }
 
 void DateEditWidget::FocusLost() {
   all_selected_ = false;
+  if (digits_.empty()) {
+    last_valid_.reset();
+  } else if (const std::optional<Date> typed = Value()) {
+    last_valid_ = typed;
+  } else {
+    SetValue(last_valid_);
+    refused_ = true;
+  }
   if (on_focus_lost_) on_focus_lost_();
 }
 

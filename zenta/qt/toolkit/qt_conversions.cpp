@@ -1,5 +1,6 @@
 #include "zenta/qt/toolkit/qt_conversions.h"
 
+#include <algorithm>
 #include <exception>
 #include <limits>
 #include <mutex>
@@ -40,6 +41,14 @@ QDate ToQDate(Date date) {
 Date FromQDate(const QDate& date) {
   if (!date.isValid()) return Date();
   return Date::FromYmd(date.year(), date.month(), date.day()).value_or(Date());
+}
+
+Date FromQDate(const QDate& date, const std::string& field) {
+  if (!date.isValid()) return Date();
+  const qint64 day = date.toJulianDay() - kJulianDayOfZeroDate;
+  constexpr qint64 kLow = std::numeric_limits<std::int32_t>::min();
+  constexpr qint64 kHigh = std::numeric_limits<std::int32_t>::max();
+  return Date::FromDayNumber(static_cast<std::int32_t>(std::clamp(day, kLow, kHigh))).CheckedForField(field);
 }
 
 QVariant ToQVariant(const Variant& value) {
@@ -144,9 +153,14 @@ void RegisterMetaTypes() {
     qRegisterMetaType<ObjectRef>("zenta::ObjectRef");
     QMetaType::registerConverter<Currency, QString>([](const Currency& c) { return ToQString(c); });
     QMetaType::registerConverter<Currency, double>([](const Currency& c) { return c.ToDouble(); });
-    // Qt converters cannot report failure: malformed or out-of-range text reads as zero.
-    QMetaType::registerConverter<QString, Currency>(
-        [](const QString& text) { return CurrencyFromQString(text).value_or(Currency()); });
+    // Malformed or out-of-range text fails the conversion, so setProperty refuses it.
+    QMetaType::registerConverterFunction(
+        [](const void* from, void* to) {
+          const std::optional<Currency> value = CurrencyFromQString(*static_cast<const QString*>(from));
+          if (value) *static_cast<Currency*>(to) = *value;
+          return value.has_value();
+        },
+        QMetaType::fromType<QString>(), QMetaType::fromType<Currency>());
   });
 }
 

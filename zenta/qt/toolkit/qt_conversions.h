@@ -22,7 +22,8 @@ namespace zenta::qt {
 // How the library's values cross into Qt, in one place:
 // - Text is UTF-8 on our side and QString on Qt's; malformed UTF-8 becomes U+FFFD.
 // - Currency stays exact: as text it is the invariant "12.5" form, and in a QVariant it travels
-//   as zenta::Currency (convertible to QString, and to double for display-only use).
+//   as zenta::Currency (convertible to QString, and to double for display-only use); text that
+//   is not an amount fails the conversion.
 // - Date is a QDate; the zero date ("no date") is a null QDate and back.
 // - Variants keep their type through QVariant: 16-bit integers as short, objects as ObjectRef.
 // - OLE colours are QColors; a system colour reads as the palette colour of the role it names.
@@ -35,6 +36,9 @@ std::optional<Currency> CurrencyFromQString(const QString& text);
 
 QDate ToQDate(Date date);
 Date FromQDate(const QDate& date);
+// A date a host gives the date field named `field`: a null QDate is no date, and a date outside
+// years 100 to 9999 raises Date::kOutOfRange.
+Date FromQDate(const QDate& date, const std::string& field);
 
 QVariant ToQVariant(const Variant& value);
 Variant FromQVariant(const QVariant& value);

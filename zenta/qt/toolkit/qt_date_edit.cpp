@@ -56,6 +56,7 @@ QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
   button_->setArrowType(Qt::DownArrow);
   button_->setFocusPolicy(Qt::NoFocus);
   button_->setToolTip(tr("Calendar (F4)"));
+  connect(editor_, &QLineEdit::textEdited, this, [this] { SetRefused(false); });
   connect(button_, &QToolButton::clicked, this, [this] { OpenCalendar(); });
 
   auto* popup_layout = new QVBoxLayout(popup_);
@@ -74,6 +75,9 @@ QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
 std::optional<Date> QtDateEdit::Value() const { return Date::Parse(FromQString(editor_->displayText())); }
 
 void QtDateEdit::SetValue(std::optional<Date> value) {
+  if (value) value->CheckedForField(Name());
+  last_valid_ = value;
+  SetRefused(false);
   if (value) {
     editor_->setText(ToQString(value->ToText()));
   } else {
@@ -97,6 +101,29 @@ void QtDateEdit::SetCalendarTitleColor(OleColor color) {
   p.setColor(QPalette::Highlight, fill);
   p.setColor(QPalette::HighlightedText, fill.lightnessF() > 0.6 ? Qt::black : Qt::white);
   bar.setPalette(p);
+}
+
+void QtDateEdit::Leave() {
+  if (editor_->displayText() == ToQString(std::string(formats::kDateMask))) {
+    last_valid_.reset();
+  } else if (const std::optional<Date> typed = Value()) {
+    last_valid_ = typed;
+  } else {
+    SetValue(last_valid_);
+    SetRefused(true);
+  }
+  if (on_focus_lost_) on_focus_lost_();
+}
+
+void QtDateEdit::SetRefused(bool refused) {
+  if (refused == refused_) return;
+  if (refused) tooltip_ = toolTip();
+  refused_ = refused;
+  // Tinted like a field in error, and said in words for those who cannot see the tint.
+  QPalette p = editor_->palette();
+  p.setColor(QPalette::Base, refused ? QColor(255, 220, 220) : palette().color(QPalette::Base));
+  editor_->setPalette(p);
+  setToolTip(refused ? tr("Not a date: the previous date was kept.") : tooltip_);
 }
 
 bool QtDateEdit::CalendarOpen() const { return popup_->isVisible(); }
@@ -141,7 +168,7 @@ bool QtDateEdit::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::FocusOut: {
       const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-      if (!IsTransientFocusChange(reason) && !CalendarOpen() && on_focus_lost_) on_focus_lost_();
+      if (!IsTransientFocusChange(reason) && !CalendarOpen()) Leave();
       break;
     }
     default: break;

@@ -18,7 +18,10 @@ namespace zenta::qt {
 // and a drop-down calendar (F4, Alt+Down or the button) with English day names whose title bar
 // takes the control's title colour. F2 clears the date and F3 puts today's. The value is a date
 // only once the eight digits form one. Focus-lost runs when the user leaves the field, not when
-// the calendar, a message box or another window takes the focus for a moment.
+// the calendar, a message box or another window takes the focus for a moment. Leaving it with a
+// partial or impossible date puts back the last date it held (or empties it) and tints the
+// field until the next edit; a date set from outside years 100 to 9999 is refused with
+// Date::kOutOfRange and changes nothing.
 class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
  public:
   QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition);
@@ -35,6 +38,8 @@ class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
   QWidget& CalendarTitleBar();
   void OpenCalendar();
   bool CalendarOpen() const;
+  // The typed text was refused on leaving; shown as a tinted field and in the tooltip.
+  bool Refused() const { return refused_; }
 
  protected:
   QWidget& FocusTarget() override { return *editor_; }
@@ -42,12 +47,17 @@ class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
 
  private:
   void PickDate(const QDate& date);
+  void Leave();
+  void SetRefused(bool refused);
 
   QLineEdit* editor_;
   QToolButton* button_;
   QFrame* popup_;
   QCalendarWidget* calendar_;
   OleColor title_color_ = 0;
+  std::optional<Date> last_valid_;
+  bool refused_ = false;
+  QString tooltip_;
   platform::Callback on_focus_lost_;
 };
 

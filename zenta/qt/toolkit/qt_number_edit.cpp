@@ -80,11 +80,13 @@ std::optional<QString> QtNumberEdit::AcceptableEdit(const QString& text, int& po
 void QtNumberEdit::SetValue(std::optional<Currency> value) {
   value_ = value;
   raw_ = value ? value->ToString() : std::string();
+  setModified(false);
   Show();
 }
 
 void QtNumberEdit::SetText(const std::string& text) {
   raw_ = text;
+  setModified(false);
   value_ = CurrencyFromQString(ToQString(text));
   Show();
 }
@@ -116,8 +118,16 @@ void QtNumberEdit::SetBackColor(OleColor color) {
   setPalette(p);
 }
 
+bool QtNumberEdit::FinishEdit() {
+  if (!hasFocus() || !isModified() || grid_) return false;
+  setModified(false);
+  if (on_focus_lost_) on_focus_lost_();
+  return true;
+}
+
 void QtNumberEdit::Show() {
-  const QString shown = ToQString(DisplayText());
+  QString shown = ToQString(DisplayText());
+  if (!showing_raw_) shown.replace(u'.', locale().decimalPoint());
   if (QLineEdit::text() == shown) return;
   // The validator guards the user's edits; what the program shows always goes in.
   const QValidator* guard = validator();
@@ -207,6 +217,7 @@ void QtNumberEdit::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   if (IsTransientFocusChange(event->reason())) return;
   if (grid_) grid_->EditorLosingFocus();
+  setModified(false);
   showing_raw_ = false;
   Show();
   if (on_focus_lost_) on_focus_lost_();

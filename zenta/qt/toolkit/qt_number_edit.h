@@ -18,7 +18,9 @@ class QtArrayGrid;
 // through the display format; focused, it shows the text as typed, all selected on entry.
 // F2 clears the value. F4 does nothing: there is no calculator to drop down, and the key must
 // not reach a surrounding widget either. Focus-lost runs only when the user really leaves the
-// field, not when a message box, popup or another window takes the focus for a moment.
+// field, not when a message box, popup or another window takes the focus for a moment. Away
+// from the focus the point is shown as the locale's ("12,50" under fr_CA); the value and Text()
+// keep ".".
 class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit> {
  public:
   QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definition);
@@ -34,6 +36,11 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   void SetBackColor(OleColor color) override;
   void OnFocusGained(platform::Callback callback) override { on_focus_gained_ = std::move(callback); }
   void OnFocusLost(platform::Callback callback) override { on_focus_lost_ = std::move(callback); }
+
+  // Runs the focus-lost rule now on text the user typed and has not left yet, as leaving would;
+  // false when there was no such edit. For a host that reads values from a shortcut that does
+  // not take the focus.
+  bool FinishEdit();
 
   // The edit serves `grid` as its in-cell editor (nullptr: it no longer does).
   void AttachToGrid(QtArrayGrid* grid) { grid_ = grid; }

@@ -1,6 +1,9 @@
 #include "zenta/qt/toolkit/qt_surface.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
+#include <algorithm>
 #include <QKeyEvent>
 
 #include "zenta/qt/toolkit/key_mapping.h"
@@ -17,10 +20,9 @@ namespace zenta::qt {
 namespace {
 constexpr double kTwipsPerInch = 1440.0;
 // The layouts were drawn for an 8-point dialog font whose letters average about 5.6 pixels at
-// 96 DPI (measured over the alphabet, as dialog units are).
-constexpr double kDesignPointSize = 8.0;
-constexpr double kSmallestPointSize = 6.0;
+// 96 DPI (measured over the alphabet, as dialog units are) and whose lines are 13 pixels high.
 constexpr double kDesignLetterWidthAt96Dpi = 5.6;
+constexpr double kDesignLineHeightAt96Dpi = 13.0;
 
 double AverageLetterWidth(const QFont& font) {
   static const QString kAlphabet = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
@@ -29,7 +31,6 @@ double AverageLetterWidth(const QFont& font) {
 }  // namespace
 
 QtSurface::QtSurface(QWidget* parent) : QWidget(parent) {
-  FitFont();
   SetBackColor(colors::kButtonFace);
 }
 
@@ -39,14 +40,46 @@ QtSurface::~QtSurface() {
   if (focused && isAncestorOf(focused)) focused->clearFocus();
 }
 
-void QtSurface::FitFont() {
-  QFont dialog = font();
-  const double widest = kDesignLetterWidthAt96Dpi * logicalDpiX() / 96.0;
-  for (double size = kDesignPointSize; size >= kSmallestPointSize; size -= 0.5) {
-    dialog.setPointSizeF(size);
-    if (AverageLetterWidth(dialog) <= widest) break;
+double QtSurface::FontScale(Qt::Orientation axis) const {
+  const double design = axis == Qt::Horizontal ? kDesignLetterWidthAt96Dpi * logicalDpiX() / 96.0
+                                               : kDesignLineHeightAt96Dpi * logicalDpiY() / 96.0;
+  const double actual = axis == Qt::Horizontal ? AverageLetterWidth(font()) : QFontMetricsF(font()).height();
+  return std::max(1.0, actual / design);
+}
+
+void QtSurface::Relayout() {
+  if (laid_out_.empty()) return;
+  const double sy = FontScale(Qt::Vertical);
+  int design_right = 0;
+  for (const auto& [widget, rect] : laid_out_) design_right = std::max(design_right, rect.left + rect.width);
+  // Wider fonts widen everything; a wider control stretches the fields across its width.
+  const double fitted = FontScale(Qt::Horizontal);
+  const int design_px = std::max(1, ToPixels(design_right + laid_out_.front().second.left, Qt::Horizontal));
+  const double sx = std::max(fitted, static_cast<double>(width()) / design_px);
+  int needed = 0;
+  for (const auto& [widget, rect] : laid_out_) {
+    if (!widget) continue;
+    const QRect px = PixelRect(rect);
+    QRect scaled(qRound(px.x() * sx), qRound(px.y() * sy), qRound(px.width() * sx), qRound(px.height() * sy));
+    // A caption is never cut: it takes the room its text needs at the current font.
+    if (qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget)) {
+      scaled.setWidth(std::max(scaled.width(), widget->sizeHint().width()));
+      needed = std::max(needed, qRound(px.x() * fitted) + widget->sizeHint().width());
+    }
+    scaled.setHeight(std::max(scaled.height(), widget->minimumSizeHint().height()));
+    widget->setGeometry(scaled);
   }
-  setFont(dialog);
+  needed += ToPixels(laid_out_.front().second.left, Qt::Horizontal);
+  if (needed != caption_width_) {
+    caption_width_ = needed;
+    updateGeometry();
+    if (parentWidget()) parentWidget()->updateGeometry();
+  }
+}
+
+QSize QtSurface::FittedSize(int width_twips, int height_twips) const {
+  return QSize(std::max(caption_width_, qRound(ToPixels(width_twips, Qt::Horizontal) * FontScale(Qt::Horizontal))),
+               qRound(ToPixels(height_twips, Qt::Vertical) * FontScale(Qt::Vertical)));
 }
 
 int QtSurface::ToPixels(int twips, Qt::Orientation axis) const {
@@ -73,6 +106,8 @@ void QtSurface::Track(platform::Widget& widget, QWidget& qwidget, const std::str
 template <class W>
 W& QtSurface::Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target) {
   widget->setGeometry(PixelRect(definition.rect));
+  laid_out_.emplace_back(widget, definition.rect);
+  Relayout();
   focus_target.installEventFilter(this);
   if (focus_target.focusPolicy() != Qt::NoFocus) {
     if (!definition.tab_stop) {
@@ -175,13 +210,20 @@ bool QtSurface::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+void QtSurface::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) Relayout();
+}
+
 void QtSurface::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  Relayout();
   if (on_resize_) on_resize_();
 }
 
 void QtSurface::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  Relayout();  // captions measure their final size once polished
   if (shown_once_) return;
   shown_once_ = true;
   if (on_shown_) on_shown_();

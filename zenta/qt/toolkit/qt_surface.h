@@ -13,8 +13,9 @@ namespace zenta::qt {
 // (twips become pixels through the screen's logical DPI) and chains them in tab order in the
 // order created; it previews every key they receive before they do, reports the focused child
 // as the active one, and paints its background in the control's OLE colour (a system colour
-// follows the palette). Its font is the 8-point dialog font the layouts were drawn for, made
-// smaller if the system's is wider, so that captions fit their rectangles.
+// follows the palette). It takes the host's font: the rectangles were drawn for an 8-point dialog
+// font, so a larger font scales the layout by its letter width and line height, a wider surface
+// stretches the fields across it, and a caption always gets the width its text needs.
 class QtSurface : public QWidget, public platform::ControlSurface {
  public:
   explicit QtSurface(QWidget* parent = nullptr);
@@ -53,9 +54,13 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   // px = twips * logical DPI / 1440, along either axis.
   int ToPixels(int twips, Qt::Orientation axis = Qt::Horizontal) const;
   int ToTwips(int pixels, Qt::Orientation axis = Qt::Horizontal) const;
+  // A size in twips of the drawn layout, in pixels at the current font, and wide enough for
+  // every caption.
+  QSize FittedSize(int width_twips, int height_twips) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -64,15 +69,18 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   W& Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target);
   void Track(platform::Widget& widget, QWidget& qwidget, const std::string& name);
   QRect PixelRect(const platform::TwipsRect& rect) const;
-  void FitFont();
+  double FontScale(Qt::Orientation axis) const;
+  void Relayout();
 
   std::vector<platform::Widget*> children_;
+  std::vector<std::pair<QPointer<QWidget>, platform::TwipsRect>> laid_out_;
   std::map<const QWidget*, platform::Widget*> by_qwidget_;
   std::map<std::string, QWidget*> qwidget_by_name_;
   QPointer<QWidget> last_tab_stop_;
   OleColor back_color_ = colors::kButtonFace;
   bool user_mode_ = true;
   bool shown_once_ = false;
+  int caption_width_ = 0;
   std::function<void(platform::KeyDown&)> on_key_down_;
   platform::Callback on_resize_;
   platform::Callback on_shown_;
