@@ -112,7 +112,7 @@ QStringList DemoWindow::HostValues() const {
         << QString("GovtDetails1.GridNumberofRows = %1").arg(remittance_->GridNumberofRows());
   // Reading an item makes its row current: leave the grid alone while the payer is in it.
   std::string active = remittance_->Surface().ActiveChildName();
-  if (active == "grItems" || active == "txtGridEntry") return lines;
+  if (active == "grItems" || active == "grItems") return lines;
   for (short row = 1; row <= remittance_->GridNumberofRows(); ++row) {
     QString amount = remittance_->GridValues(row);
     if (!amount.isEmpty()) lines << QString("GovtDetails1.GridValues(%1) = \"%2\"").arg(row).arg(amount);

@@ -5,10 +5,12 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <stdexcept>
 
 #include "zenta/platform/key_script.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/qt_widget_base.h"
 
 namespace zenta::qt {
 
@@ -93,6 +95,38 @@ Date QtHost::Today() const { return FromQDate(QDate::currentDate()); }
 char32_t QtHost::DecimalSeparator() const {
   const QList<uint> point = QLocale().decimalPoint().toUcs4();
   return point.isEmpty() ? U'.' : static_cast<char32_t>(point.front());
+}
+
+void QtHost::Post(std::function<void()> action) {
+  if (!owner_) return;
+  QPointer<QWidget> owner = owner_;
+  QMetaObject::invokeMethod(
+      owner_.data(), [owner, action = std::move(action)] { if (owner) action(); }, Qt::QueuedConnection);
+}
+
+void QtHost::Beep() { QApplication::beep(); }
+
+namespace {
+platform::WindowMetrics MetricsOf(const QWidget& window) {
+  const int dpi_x = window.logicalDpiX();
+  const int dpi_y = window.logicalDpiY();
+  const QRect outer = window.isWindow() ? window.frameGeometry() : window.geometry();
+  const QRect inner = window.geometry();
+  return {ToTwipsAlong(outer.x(), dpi_x), ToTwipsAlong(outer.y(), dpi_y), ToTwipsAlong(outer.width(), dpi_x),
+          ToTwipsAlong(outer.height(), dpi_y), ToTwipsAlong(inner.width(), dpi_x), ToTwipsAlong(inner.height(), dpi_y)};
+}
+}  // namespace
+
+platform::ContainerMetrics QtHost::Container() const {
+  platform::ContainerMetrics metrics;
+  if (!owner_) return metrics;
+  metrics.control_left = ToTwipsAlong(owner_->x(), owner_->logicalDpiX());
+  metrics.control_top = ToTwipsAlong(owner_->y(), owner_->logicalDpiY());
+  const QWidget* container = owner_->parentWidget() ? owner_->parentWidget() : owner_.data();
+  metrics.container = MetricsOf(*container);
+  metrics.container_is_form = container->isWindow();
+  if (!metrics.container_is_form) metrics.parent_form = MetricsOf(*container->window());
+  return metrics;
 }
 
 }  // namespace zenta::qt

@@ -24,6 +24,12 @@ class QtHost : public platform::HostServices {
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
   Date Today() const override;
   char32_t DecimalSeparator() const override;
+  // A queued call on the owner: it runs once the event being handled has returned.
+  void Post(std::function<void()> action) override;
+  void Beep() override;
+  // From the owner's geometry and its window's: a window's outer size less its inner size is
+  // the frame allowance a dialog placed beside the control needs.
+  platform::ContainerMetrics Container() const override;
 
   void SetEventSink(std::function<void(platform::RaisedEvent&)> sink) { event_sink_ = std::move(sink); }
   void SetPropertyChangedSink(std::function<void(const std::string&)> sink) { changed_sink_ = std::move(sink); }

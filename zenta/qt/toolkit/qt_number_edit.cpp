@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <QValidator>
 
-#include "zenta/qt/toolkit/qt_array_grid.h"
+#include "zenta/platform/keys.h"
 
 namespace zenta::qt {
 
@@ -119,7 +119,7 @@ void QtNumberEdit::SetBackColor(OleColor color) {
 }
 
 bool QtNumberEdit::FinishEdit() {
-  if (!hasFocus() || !isModified() || grid_) return false;
+  if (!hasFocus() || !isModified()) return false;
   setModified(false);
   if (on_focus_lost_) on_focus_lost_();
   return true;
@@ -157,11 +157,6 @@ bool QtNumberEdit::event(QEvent* event) {
       event->accept();
       return true;
     }
-    // In a grid, Tab ends the cell edit instead of moving along the focus chain.
-    if (grid_ && event->type() == QEvent::KeyPress && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)) {
-      keyPressEvent(key);
-      return true;
-    }
   }
   return QLineEdit::event(event);
 }
@@ -173,26 +168,8 @@ void QtNumberEdit::keyPressEvent(QKeyEvent* event) {
   }
   if (event->key() == Qt::Key_F4) return;
   if (IsCellEndingKey(event->key())) {
-    if (grid_) {
-      grid_->EndEditFromEditor(*event);
-    } else {
-      event->ignore();  // Enter belongs to the control's preview, Tab to the focus chain
-    }
+    event->ignore();  // Enter belongs to the control's preview, Tab to the focus chain
     return;
-  }
-  if (grid_) {
-    // Typed characters pass the grid's key-press filter, which may replace or discard them.
-    const QList<uint> typed = event->text().toUcs4();
-    const bool backspace = event->key() == Qt::Key_Backspace;
-    if (backspace || (typed.size() == 1 && QChar::isPrint(typed[0]))) {
-      const char32_t key = backspace ? char32_t{platform::keys::kBackspace} : static_cast<char32_t>(typed[0]);
-      platform::KeyPress press{key};
-      grid_->FilterKey(press);
-      if (press.key != key) {
-        TypeCharacter(press.key);
-        return;
-      }
-    }
   }
   QLineEdit::keyPressEvent(event);
 }
@@ -202,7 +179,6 @@ void QtNumberEdit::focusInEvent(QFocusEvent* event) {
   showing_raw_ = true;
   Show();
   if (IsTransientFocusChange(event->reason())) return;
-  if (grid_) grid_->EditorGainingFocus(*this);
   selectAll();
   if (event->reason() == Qt::MouseFocusReason) {
     // The press that gave the focus places the caret after this; select once it has.
@@ -216,7 +192,6 @@ void QtNumberEdit::focusInEvent(QFocusEvent* event) {
 void QtNumberEdit::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
   if (IsTransientFocusChange(event->reason())) return;
-  if (grid_) grid_->EditorLosingFocus();
   setModified(false);
   showing_raw_ = false;
   Show();

@@ -9,7 +9,6 @@
 
 namespace zenta::qt {
 
-class QtArrayGrid;
 
 // A money field on a QLineEdit, never on a spin box: its text is parsed as an exact Currency with
 // "." as the point whatever the locale. Typing and pasting obey the edit format (nine integer
@@ -42,8 +41,6 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   // not take the focus.
   bool FinishEdit();
 
-  // The edit serves `grid` as its in-cell editor (nullptr: it no longer does).
-  void AttachToGrid(QtArrayGrid* grid) { grid_ = grid; }
   // `text` with pasted decorations dropped and the locale's point made "." (the caret at
   // `position` kept among the characters that stay), if the result fits the edit format or at
   // least shortens a longer text the program put there; nullopt when the edit is refused.
@@ -74,7 +71,6 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   int decimals_ = 2;
   OleColor back_color_ = colors::kWindowBackground;
   bool showing_raw_ = false;
-  QtArrayGrid* grid_ = nullptr;
   platform::Callback on_focus_gained_;
   platform::Callback on_focus_lost_;
 };

@@ -7,7 +7,7 @@
 #include <QKeyEvent>
 
 #include "zenta/qt/toolkit/key_mapping.h"
-#include "zenta/qt/toolkit/qt_array_grid.h"
+#include "zenta/qt/toolkit/qt_grid_view.h"
 #include "zenta/qt/toolkit/qt_check_box.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_date_edit.h"
@@ -149,18 +149,8 @@ platform::Label& QtSurface::AddLabel(const platform::WidgetSpec& definition, con
 }
 
 platform::Grid& QtSurface::AddGrid(const platform::WidgetSpec& definition, int column_count) {
-  auto* grid = new QtArrayGrid(this, definition, column_count);
+  auto* grid = new QtGridView(this, definition, column_count);
   return Register(grid, definition, *grid);
-}
-
-platform::NumberEdit& QtSurface::AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) {
-  // Only reachable through its grid: no place of its own in the tab order.
-  auto* edit = new QtNumberEdit(this, definition);
-  edit->setFocusPolicy(Qt::ClickFocus);
-  edit->installEventFilter(this);
-  Track(*edit, *edit, definition.name);
-  grid.SetColumnEditor(column, edit);
-  return *edit;
 }
 
 platform::Widget* QtSurface::ActiveChild() const {

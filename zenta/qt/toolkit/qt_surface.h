@@ -27,7 +27,6 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   platform::CheckBox& AddCheckBox(const platform::WidgetSpec& definition, const std::string& caption) override;
   platform::Label& AddLabel(const platform::WidgetSpec& definition, const std::string& caption) override;
   platform::Grid& AddGrid(const platform::WidgetSpec& definition, int column_count) override;
-  platform::NumberEdit& AddGridEditor(const platform::WidgetSpec& definition, platform::Grid& grid, int column) override;
 
   std::vector<platform::Widget*> Children() const override { return children_; }
   platform::Widget* ActiveChild() const override;

@@ -8,6 +8,10 @@
 
 namespace zenta::qt {
 
+// Twips (1/1440 inch) and pixels at a logical DPI.
+inline int ToTwipsAlong(int pixels, int dpi) { return dpi > 0 ? pixels * 1440 / dpi : pixels * 15; }
+inline int ToPixelsAlong(int twips, int dpi) { return dpi > 0 ? twips * dpi / 1440 : twips / 15; }
+
 // The platform::Widget members every Qt adapter answers the same way from its QWidget. The
 // enabled state is the widget's own, not inherited from a disabled control.
 template <class Interface>
@@ -27,6 +31,15 @@ class QtWidgetBase : public Interface {
     if (Enabled() && Visible()) FocusTarget().setFocus(Qt::OtherFocusReason);
   }
   bool HasFocus() const override { return const_cast<QtWidgetBase*>(this)->FocusTarget().hasFocus(); }
+  platform::TwipsRect Rect() const override {
+    const QRect g = widget_.geometry();
+    return {ToTwipsAlong(g.x(), widget_.logicalDpiX()), ToTwipsAlong(g.y(), widget_.logicalDpiY()),
+            ToTwipsAlong(g.width(), widget_.logicalDpiX()), ToTwipsAlong(g.height(), widget_.logicalDpiY())};
+  }
+  void SetRect(const platform::TwipsRect& rect) override {
+    widget_.setGeometry(ToPixelsAlong(rect.left, widget_.logicalDpiX()), ToPixelsAlong(rect.top, widget_.logicalDpiY()),
+                        ToPixelsAlong(rect.width, widget_.logicalDpiX()), ToPixelsAlong(rect.height, widget_.logicalDpiY()));
+  }
 
  protected:
   // The widget that really takes the focus (a composite's inner editor).

@@ -1,0 +1,51 @@
+#include "zenta/qt/toolkit/grid_engine_model.h"
+
+#include <QColor>
+#include <QPalette>
+
+#include "zenta/qt/toolkit/qt_conversions.h"
+
+namespace zenta::qt {
+
+int GridEngineModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : engine_.DisplayRowCount(); }
+
+int GridEngineModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : engine_.ColumnCount(); }
+
+QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) return {};
+  const int row = engine_.BookmarkAt(index.row());
+  const int column = index.column();
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::AccessibleTextRole:
+      return ToQString(engine_.Appearance(row, column).text);
+    case Qt::ForegroundRole: {
+      auto color = engine_.Appearance(row, column).fore_color;
+      return color ? QVariant(ToQColor(*color, QPalette())) : QVariant();
+    }
+    case Qt::BackgroundRole: {
+      auto color = engine_.Appearance(row, column).back_color;
+      return color ? QVariant(ToQColor(*color, QPalette())) : QVariant();
+    }
+    case Qt::TextAlignmentRole: {
+      auto kind = engine_.Column(column).kind;
+      bool right = kind == platform::ColumnKind::Number;
+      return QVariant::fromValue(Qt::Alignment((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter));
+    }
+    default:
+      return {};
+  }
+}
+
+QVariant GridEngineModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || section < 0 || section >= engine_.ColumnCount()) return {};
+  if (role == Qt::DisplayRole) return ToQString(engine_.Column(section).caption);
+  return {};
+}
+
+void GridEngineModel::RowChanged(int display_row) {
+  if (display_row < 0 || display_row >= rowCount()) return;
+  dataChanged(index(display_row, 0), index(display_row, columnCount() - 1));
+}
+
+}  // namespace zenta::qt

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "zenta/platform/grid_engine.h"
+
+namespace zenta::qt {
+
+// The rows of a grid engine as Qt reads them: text, colours and captions come from the engine
+// cell by cell when painted; nothing is copied.
+class GridEngineModel : public QAbstractTableModel {
+ public:
+  GridEngineModel(QObject* parent, const platform::GridEngine& engine) : QAbstractTableModel(parent), engine_(engine) {}
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  void Reset() {
+    beginResetModel();
+    endResetModel();
+  }
+  void RowChanged(int display_row);
+  void ColumnsChanged() { headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+
+ private:
+  const platform::GridEngine& engine_;
+};
+
+}  // namespace zenta::qt

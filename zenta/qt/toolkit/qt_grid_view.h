@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QTableView>
+#include <functional>
+
+#include "zenta/platform/grid.h"
+#include "zenta/qt/toolkit/qt_widget_base.h"
+
+namespace zenta::qt {
+
+class GridEngineModel;
+
+// A grid on a QTableView: a thin view over platform::GridEngine. The model reads the engine on
+// demand (no per-cell items, fixed row heights), so long lists stay cheap; keys, clicks and
+// focus changes go to the engine, and an open edit is painted in its cell from the engine's
+// edit text. Posted grid messages are queued calls on this widget.
+class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, public platform::GridView {
+ public:
+  QtGridView(QWidget* parent, const platform::WidgetSpec& definition, int column_count);
+  ~QtGridView() override;
+
+  platform::GridEngine& Engine() override { return *engine_; }
+  const platform::GridEngine& Engine() const override { return *engine_; }
+  int FirstRowTop() const override;
+  int RowHeight() const override;
+
+  void RowsChanged() override;
+  void RowChanged(int row) override;
+  void ColumnsChanged() override;
+  void CurrentCellChanged() override;
+  void EditorOpened() override { viewport()->update(); }
+  void EditorChanged() override { viewport()->update(); }
+  void EditorClosed() override { viewport()->update(); }
+  bool HasFocus() const override { return hasFocus(); }
+  void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
+  void Post(std::function<void()> action) override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  int ToTwips(int pixels) const;
+
+  GridEngineModel* model_;
+  std::unique_ptr<platform::GridEngine> engine_;
+  bool moving_ = false;
+};
+
+}  // namespace zenta::qt
