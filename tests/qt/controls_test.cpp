@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
@@ -133,6 +134,14 @@ class ControlsTest : public QObject {
     QCOMPARE(remittance->GridValues(1), QString("45.5"));
     QCOMPARE(updated.count(), 1);
     QCOMPARE(updated.at(0).at(0).toInt(), 1);
+  }
+
+  void itemLabelsAreShownInTheGrid() {
+    auto* remittance = Place<GovtDetails>();
+    QVERIFY(remittance);
+    auto* grid = remittance->findChild<QTableView*>("grItems");
+    QVERIFY(grid);
+    QCOMPARE(grid->model()->data(grid->model()->index(0, 0)).toString(), QString("A-01"));
   }
 
   void punctuationTypedInTheGridIsNeverAnArrowKey() {
