@@ -4,13 +4,16 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-set(zenta_exported zenta_core zenta_records zenta_platform zenta_entry zenta_headless zenta_controls_simple)
+set(zenta_exported zenta_core zenta_records zenta_platform zenta_entry zenta_headless zenta_controls_simple
+    zenta_distribution zenta_payment_details)
 set_target_properties(zenta_core PROPERTIES EXPORT_NAME Core)
 set_target_properties(zenta_records PROPERTIES EXPORT_NAME Records)
 set_target_properties(zenta_platform PROPERTIES EXPORT_NAME Platform)
 set_target_properties(zenta_entry PROPERTIES EXPORT_NAME Entry)
 set_target_properties(zenta_headless PROPERTIES EXPORT_NAME Headless)
 set_target_properties(zenta_controls_simple PROPERTIES EXPORT_NAME ControlsSimple)
+set_target_properties(zenta_distribution PROPERTIES EXPORT_NAME Distribution)
+set_target_properties(zenta_payment_details PROPERTIES EXPORT_NAME PaymentDetails)
 add_library(ZentaDataEntry::Core ALIAS zenta_core)
 add_library(ZentaDataEntry::Headless ALIAS zenta_headless)
 if(TARGET zenta_qt)

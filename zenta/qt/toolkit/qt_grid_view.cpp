@@ -2,20 +2,63 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include "zenta/core/utf8.h"
 #include "zenta/qt/toolkit/grid_engine_model.h"
+#include "zenta/qt/toolkit/qt_grid_delegate.h"
 #include "zenta/qt/toolkit/key_mapping.h"
 
 namespace zenta::qt {
+
+// The footer row: each visible column's footer text under the column, following its width and
+// the horizontal scroll.
+class GridFooter : public QWidget {
+ public:
+  GridFooter(QtGridView& view, const platform::GridEngine& engine) : QWidget(&view), view_(view), engine_(engine) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const platform::GridColors& colors = engine_.Colors();
+    const QColor back = colors.footer_back ? ToQColor(*colors.footer_back, palette()) : palette().color(QPalette::Button);
+    const QColor fore = colors.footer_fore ? ToQColor(*colors.footer_fore, palette()) : palette().color(QPalette::ButtonText);
+    painter.fillRect(rect(), back);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawLine(0, 0, width(), 0);
+    for (int column = 0; column < engine_.ColumnCount(); ++column) {
+      if (view_.isColumnHidden(column)) continue;
+      const int left = view_.columnViewportPosition(column);
+      const QRect cell(left, 0, view_.columnWidth(column), height());
+      painter.setPen(palette().color(QPalette::Mid));
+      painter.drawLine(cell.right(), 0, cell.right(), height());
+      const platform::GridColumn& description = engine_.Column(column);
+      if (description.footer_text.empty()) continue;
+      const bool right = description.kind == platform::ColumnKind::Number;
+      painter.setPen(fore);
+      painter.drawText(cell.adjusted(3, 0, -3, 0), (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter,
+                       ToQString(description.footer_text));
+    }
+  }
+
+ private:
+  QtGridView& view_;
+  const platform::GridEngine& engine_;
+};
 
 QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, int column_count)
     : QTableView(parent), QtWidgetBase(*this, definition),
       engine_(std::make_unique<platform::GridEngine>(*this, column_count)) {
   model_ = new GridEngineModel(this, *engine_);
   setModel(model_);
+  setItemDelegate(new GridCellDelegate(this, *engine_));
+  footer_ = new GridFooter(*this, *engine_);
+  footer_->hide();
+  connect(horizontalHeader(), &QHeaderView::sectionResized, footer_, qOverload<>(&QWidget::update));
+  connect(horizontalScrollBar(), &QScrollBar::valueChanged, footer_, qOverload<>(&QWidget::update));
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setSelectionMode(QAbstractItemView::SingleSelection);
   setSelectionBehavior(QAbstractItemView::SelectItems);
@@ -52,7 +95,47 @@ void QtGridView::ColumnsChanged() {
       setColumnWidth(column, description.width * logicalDpiX() / 1440);
     }
   }
+  ApplyColors();
+  updateGeometries();
+  footer_->update();
   viewport()->update();
+}
+
+bool QtGridView::HasFooter() const {
+  for (int column = 0; column < engine_->ColumnCount(); ++column) {
+    if (!engine_->Column(column).footer_text.empty()) return true;
+  }
+  return false;
+}
+
+void QtGridView::ApplyColors() {
+  const platform::GridColors& colors = engine_->Colors();
+  if (!colors.header_back && !colors.header_fore) {
+    horizontalHeader()->setStyleSheet(QString());
+    return;
+  }
+  const QPalette p = palette();
+  QString style = QStringLiteral("QHeaderView::section {");
+  if (colors.header_back) style += QStringLiteral(" background-color: %1;").arg(ToQColor(*colors.header_back, p).name());
+  if (colors.header_fore) style += QStringLiteral(" color: %1;").arg(ToQColor(*colors.header_fore, p).name());
+  style += QStringLiteral(" border: 0px; border-right: 1px solid palette(mid); border-bottom: 1px solid palette(mid); }");
+  horizontalHeader()->setStyleSheet(style);
+}
+
+void QtGridView::updateGeometries() {
+  QTableView::updateGeometries();
+  if (!footer_) return;  // called while the table is still being set up
+  // The table lays out its headers and sets the viewport's margins; the footer takes a row's
+  // height off the bottom.
+  const bool footer = HasFooter();
+  const int height = footer ? verticalHeader()->defaultSectionSize() : 0;
+  const QMargins margins = viewportMargins();
+  if (margins.bottom() != height) setViewportMargins(margins.left(), margins.top(), margins.right(), height);
+  footer_->setVisible(footer);
+  if (footer) {
+    const QRect area = viewport()->geometry();
+    footer_->setGeometry(area.left(), area.bottom() + 1, area.width(), height);
+  }
 }
 
 void QtGridView::CurrentCellChanged() {

@@ -9,11 +9,13 @@
 namespace zenta::qt {
 
 class GridEngineModel;
+class GridFooter;
 
 // A grid on a QTableView: a thin view over platform::GridEngine. The model reads the engine on
 // demand (no per-cell items, fixed row heights), so long lists stay cheap; keys, clicks and
 // focus changes go to the engine, and an open edit is painted in its cell from the engine's
-// edit text. Posted grid messages are queued calls on this widget.
+// edit text. Under the rows a footer row shows each column's footer text at the column's width
+// and scroll position. Posted grid messages are queued calls on this widget.
 class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, public platform::GridView {
  public:
   QtGridView(QWidget* parent, const platform::WidgetSpec& definition, int column_count);
@@ -41,11 +43,15 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
+  void updateGeometries() override;
 
  private:
   int ToTwips(int pixels) const;
+  void ApplyColors();
+  bool HasFooter() const;
 
   GridEngineModel* model_;
+  GridFooter* footer_ = nullptr;
   std::unique_ptr<platform::GridEngine> engine_;
   bool moving_ = false;
 };

@@ -31,6 +31,8 @@ class QtHost : public platform::HostServices {
   // the frame allowance a dialog placed beside the control needs.
   platform::ContainerMetrics Container() const override;
 
+  // The window message boxes are modal over, and whose geometry Container() reports.
+  void SetOwner(QWidget& owner) { owner_ = &owner; }
   void SetEventSink(std::function<void(platform::RaisedEvent&)> sink) { event_sink_ = std::move(sink); }
   void SetPropertyChangedSink(std::function<void(const std::string&)> sink) { changed_sink_ = std::move(sink); }
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "zenta/controls/distribution/library_context.h"
+
+namespace zenta::qt {
+
+// The library context of a Qt application: the one distribution window (a QDialog made on first
+// use and kept) and the library-wide currency code, shared by every grid control of the
+// application. It lives as long as the QApplication and goes with it; the Qt control classes
+// find it themselves, so a host (or a Designer form) creates them with a parent only.
+// Call from the GUI thread once a QApplication exists.
+LibraryContext& ApplicationContext();
+
+}  // namespace zenta::qt

@@ -1,0 +1,158 @@
+#include "zenta/qt/toolkit/qt_dialog_surface.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPointer>
+
+#include "zenta/qt/toolkit/qt_button.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/qt_decoration.h"
+#include "zenta/qt/toolkit/qt_grid_view.h"
+#include "zenta/qt/toolkit/qt_label.h"
+#include "zenta/qt/toolkit/qt_text_box.h"
+
+namespace zenta::qt {
+
+namespace {
+constexpr double kTwipsPerInch = 1440.0;
+}
+
+QtDialogSurface::QtDialogSurface(QWidget* parent) : QDialog(parent) {
+  setModal(true);
+  setSizeGripEnabled(false);
+}
+
+QtDialogSurface::~QtDialogSurface() = default;
+
+int QtDialogSurface::ToPixels(int twips, Qt::Orientation axis) const {
+  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
+  return qRound(twips * dpi / kTwipsPerInch);
+}
+
+int QtDialogSurface::ToTwips(int pixels, Qt::Orientation axis) const {
+  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
+  return qRound(pixels * kTwipsPerInch / dpi);
+}
+
+template <class W>
+W& QtDialogSurface::Register(W* widget, const platform::WidgetSpec& definition) {
+  widget->SetRect(definition.rect);
+  if (widget->focusPolicy() != Qt::NoFocus) {
+    if (!definition.tab_stop) {
+      widget->setFocusPolicy(Qt::ClickFocus);
+    } else {
+      if (last_tab_stop_) setTabOrder(last_tab_stop_, widget);
+      last_tab_stop_ = widget;
+    }
+  }
+  children_.push_back(widget);
+  by_qwidget_[widget] = widget;
+  qwidget_of_[widget] = widget;
+  return *widget;
+}
+
+platform::Grid& QtDialogSurface::AddGrid(const platform::WidgetSpec& definition, int column_count) {
+  return Register(new QtGridView(this, definition, column_count), definition);
+}
+
+platform::TextBox& QtDialogSurface::AddTextBox(const platform::WidgetSpec& definition) {
+  return Register(new QtTextBox(this, definition), definition);
+}
+
+platform::Button& QtDialogSurface::AddButton(const platform::WidgetSpec& definition, const std::string& caption) {
+  return Register(new QtButton(this, definition, caption), definition);
+}
+
+platform::Label& QtDialogSurface::AddLabel(const platform::WidgetSpec& definition, const std::string& caption) {
+  return Register(new QtLabel(this, definition, caption), definition);
+}
+
+platform::Widget& QtDialogSurface::AddFrame(const platform::WidgetSpec& definition, const std::string& caption) {
+  auto* frame = new QtFrame(this, definition, caption);
+  frame->lower();
+  return Register(frame, definition);
+}
+
+platform::Widget& QtDialogSurface::AddShape(const platform::WidgetSpec& definition) {
+  auto* shape = new QtShape(this, definition);
+  shape->lower();
+  return Register(shape, definition);
+}
+
+void QtDialogSurface::SetTitle(const std::string& title) { setWindowTitle(ToQString(title)); }
+
+platform::TwipsRect QtDialogSurface::Rect() const {
+  const QRect outer = frameGeometry();
+  return {ToTwips(outer.x(), Qt::Horizontal), ToTwips(outer.y(), Qt::Vertical), ToTwips(outer.width(), Qt::Horizontal),
+          ToTwips(outer.height(), Qt::Vertical)};
+}
+
+void QtDialogSurface::SetRect(const platform::TwipsRect& rect) {
+  // The rectangle is the outer one: the window manager's frame comes off the client area.
+  const int frame_width = frameGeometry().width() - width();
+  const int frame_height = frameGeometry().height() - height();
+  move(ToPixels(rect.left, Qt::Horizontal), ToPixels(rect.top, Qt::Vertical));
+  resize(std::max(1, ToPixels(rect.width, Qt::Horizontal) - frame_width),
+         std::max(1, ToPixels(rect.height, Qt::Vertical) - frame_height));
+}
+
+void QtDialogSurface::ShowModal() {
+  if (isVisible()) return;
+  exec();
+}
+
+void QtDialogSurface::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  activateWindow();
+  QPointer<QtDialogSurface> self(this);
+  QMetaObject::invokeMethod(
+      this,
+      [self] {
+        if (self && self->isVisible() && self->on_activate_) self->on_activate_();
+      },
+      Qt::QueuedConnection);
+}
+
+void QtDialogSurface::reject() {
+  // The dialog's logic decides what cancelling means; with no cancel button Escape does nothing.
+  if (auto* button = dynamic_cast<QtButton*>(cancel_)) {
+    if (button->isEnabled()) button->click();
+  }
+}
+
+void QtDialogSurface::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (isVisible()) reject();
+}
+
+platform::Widget* QtDialogSurface::ActiveChild() const {
+  for (const QWidget* focused = QApplication::focusWidget(); focused && focused != this;
+       focused = focused->parentWidget()) {
+    auto found = by_qwidget_.find(focused);
+    if (found != by_qwidget_.end()) return found->second;
+  }
+  return nullptr;
+}
+
+bool QtDialogSurface::CanFocus(const platform::Widget& widget) const {
+  auto found = qwidget_of_.find(&widget);
+  if (found == qwidget_of_.end()) return false;
+  const QWidget* q = found->second;
+  return isVisible() && q->isVisibleTo(this) && q->isEnabled() && q->focusPolicy() != Qt::NoFocus;
+}
+
+platform::Widget* QtDialogSurface::Find(const std::string& name) const {
+  for (platform::Widget* child : children_) {
+    if (child->Name() == name) return child;
+  }
+  return nullptr;
+}
+
+QWidget* QtDialogSurface::FindQWidget(const std::string& name) const {
+  platform::Widget* widget = Find(name);
+  if (!widget) return nullptr;
+  auto found = qwidget_of_.find(widget);
+  return found == qwidget_of_.end() ? nullptr : found->second;
+}
+
+}  // namespace zenta::qt
