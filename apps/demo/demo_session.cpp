@@ -1,13 +1,22 @@
 #include "apps/demo/demo_session.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTableView>
 #include <QTest>
+#include <QTimer>
+#include <memory>
 
 #include "apps/demo/demo_window.h"
 #include "zenta/qt/govt_details.h"
+#include "zenta/qt/payment_details.h"
+#include "zenta/records/cls_distributions.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
+#include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::demo {
@@ -40,6 +49,163 @@ void DemoSession::Shoot(const QString& name) {
   window_.RefreshValues();
   QString path = screenshots_.filePath(name);
   if (window_.grab().save(path)) written_ << path;
+}
+
+void DemoSession::ShootWidget(QWidget& widget, const QString& name) {
+  QApplication::processEvents();
+  QString path = screenshots_.filePath(name);
+  if (widget.grab().save(path)) written_ << path;
+}
+
+void DemoSession::ClickCell(QWidget* grid, int row, int column) {
+  auto* view = qobject_cast<QTableView*>(grid);
+  if (!view) {
+    complete_ = false;
+    return;
+  }
+  const QRect cell = view->visualRect(view->model()->index(row, column));
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+  Settle();
+  // Storing the row being left may send the focus on (a balanced window to its Accept button);
+  // a payer who wants the cell clicks it again.
+  if (!view->hasFocus()) {
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+    Settle();
+  }
+}
+
+void DemoSession::Click(QWidget* button) {
+  if (auto* push = qobject_cast<QAbstractButton*>(button)) {
+    QTest::mouseClick(push, Qt::LeftButton);
+  } else {
+    complete_ = false;
+  }
+  Settle();
+}
+
+void DemoSession::WhenDialogShows(std::function<void(qt::QtDialogSurface&)> script) {
+  auto poll = std::make_shared<std::function<void()>>();
+  const int step = ++step_;
+  *poll = [this, script, poll, step] {
+    if (step != step_) return;  // that step is over: its window never opened
+    auto* dialog = dynamic_cast<qt::QtDialogSurface*>(QApplication::activeModalWidget());
+    if (dialog && dialog->isVisible() && dialog->isActiveWindow()) {
+      dialog_steps_run_ = step;
+      Settle();  // the window's own activation runs first, as it would before a person types
+      script(*dialog);
+      *poll = nullptr;
+      return;
+    }
+    QTimer::singleShot(10, *poll);
+  };
+  QTimer::singleShot(0, *poll);
+}
+
+void DemoSession::AnswerNextMessage(const QString& screenshot, int button) {
+  auto attempts = std::make_shared<int>(0);
+  auto poll = std::make_shared<std::function<void()>>();
+  *poll = [this, screenshot, button, attempts, poll] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      notes_ << QString("Message \"%1\": %2").arg(box->windowTitle(), box->text());
+      ShootWidget(*box, screenshot);
+      if (QAbstractButton* answer = box->button(static_cast<QMessageBox::StandardButton>(button))) {
+        answer->click();
+      } else {
+        complete_ = false;
+        box->accept();
+      }
+      *poll = nullptr;
+      return;
+    }
+    if (++*attempts > 300) {
+      complete_ = false;
+      *poll = nullptr;
+      return;
+    }
+    QTimer::singleShot(10, *poll);
+  };
+  QTimer::singleShot(0, *poll);
+}
+
+void DemoSession::EndStep() {
+  if (dialog_steps_run_ != step_) {
+    complete_ = false;
+    notes_ << QString("Step %1: the distribution window did not open.").arg(step_);
+  }
+  ++step_;
+  dialog_steps_run_ = step_;
+}
+
+void DemoSession::PlayPaymentSplit() {
+  // A business payment of 113.00 with 13.00 GST/HST: Tab past the GST/HST opens the window
+  // with the 100.00 net expense proposed on the default account.
+  auto& details = window_.Details();
+  QWidget* grid = details.Surface().FindQWidget("grdPaymentAmount");
+  WhenDialogShows([this](qt::QtDialogSurface& dialog) {
+    QWidget* lines = dialog.FindQWidget("grTempDistribution");
+    ClickCell(lines, 0, 2);
+    Type("6000");
+    Press(Qt::Key_Tab);
+    ClickCell(lines, 4, 1);  // the rest, 40.00, waits on the last line for its account
+    Type("5200");
+    Press(Qt::Key_Tab);
+    ShootWidget(dialog, "06-payment-split.png");
+    Click(dialog.FindQWidget("cmdGLAccept"));
+  });
+  ClickCell(grid, 0, 0);
+  Type("11300");
+  Press(Qt::Key_Tab);
+  Type("1300");
+  Press(Qt::Key_Tab);  // on to the "View Dist" button
+  Press(Qt::Key_Tab);  // past the last cell: the window opens
+  Settle();
+  EndStep();
+  QString reason;
+  const bool valid = details.IsDataValid(reason);
+  notes_ << QString("PaymentDetails1.IsDataValid = %1 (\"%2\")").arg(valid ? "True" : "False", reason);
+  Shoot("07-payment-details.png");
+}
+
+void DemoSession::PlaySplitWithRefusal() {
+  // The host reopens a payment of 150.00 whose split it kept: three lines, one of them a
+  // refund, that fall 5.00 short. Accept is refused; the payer fixes the refund and accepts.
+  auto& details = window_.Details();
+  details.ClearPay();
+  details.SetPaymentAmount(Currency::FromText("150"));
+  details.SetGST(Currency());
+  auto kept = std::make_shared<clsDistributions>();
+  kept->Add(Variant(), "5100", Currency::FromText("100"));
+  kept->Add(Variant(), "5200", Currency::FromText("70"));
+  kept->Add(Variant(), "5300", Currency::FromText("-25"));
+  details.Control().SetPayDistribution(kept);
+  WhenDialogShows([this](qt::QtDialogSurface& dialog) {
+    QWidget* lines = dialog.FindQWidget("grTempDistribution");
+    AnswerNextMessage("08-split-refused.png", QMessageBox::Ok);
+    Click(dialog.FindQWidget("cmdGLAccept"));
+    ClickCell(lines, 2, 2);
+    Type("-2000");
+    Press(Qt::Key_Tab);
+    ClickCell(lines, 0, 1);  // off the refund line, to see it in red
+    ShootWidget(dialog, "09-split-balanced.png");
+    Click(dialog.FindQWidget("cmdGLAccept"));
+  });
+  details.ShowDistribution();
+  Settle();
+  EndStep();
+  for (const QVariant& line : details.Distributions()) {
+    const QVariantMap map = line.toMap();
+    notes_ << QString("Accepted line: %1 %2").arg(map.value("GLAccount").toString(),
+                                                 qt::ToQString(map.value("Amount").value<Currency>()));
+  }
+}
+
+void DemoSession::PlayLockedFields() {
+  auto& details = window_.Details();
+  details.SetLockFields(true);
+  ClickCell(details.Surface().FindQWidget("grdPaymentAmount"), 0, 0);
+  Type("5");
+  Shoot("10-locked-fields.png");
+  details.SetLockFields(false);
 }
 
 QStringList DemoSession::Play() {
@@ -87,6 +253,10 @@ QStringList DemoSession::Play() {
   remittance.SetStatementOnly(1);
   Settle();
   Shoot("05-statement-only.png");
+
+  PlayPaymentSplit();
+  PlaySplitWithRefusal();
+  PlayLockedFields();
   return written_;
 }
 

@@ -1,6 +1,7 @@
 #include "apps/demo/demo_window.h"
 
 #include <QCheckBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "zenta/qt/govt_details.h"
+#include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
 #include "zenta/qt/toolkit/qt_surface.h"
@@ -35,17 +37,23 @@ QString DateText(const QDate& date) { return date.isNull() ? "(no date)" : date.
 
 DemoWindow::DemoWindow()
     : payment_(new qt::StdPayment), invoice_(new qt::PmtDetails), remittance_(new qt::GovtDetails),
+      details_(new qt::PaymentDetails),
       business_(new QCheckBox("Business payer: states GST/HST")), values_(new QPlainTextEdit),
       events_(new QListWidget) {
   setWindowTitle("Zenta Data Entry Controls — bill payment demo");
   payment_->setObjectName("StdPayment1");
   invoice_->setObjectName("PmtDetails1");
   remittance_->setObjectName("GovtDetails1");
+  details_->setObjectName("PaymentDetails1");
+  details_->SetDefaultGLAccount("5100");
 
-  auto* controls = new QHBoxLayout;
-  controls->addWidget(Framed("Standard payment", payment_, "Type amounts as cents: 2500 is 25.00."));
-  controls->addWidget(Framed("Payment of one invoice", invoice_, "Enter moves to the next field."));
-  controls->addWidget(Framed("Government remittance", remittance_, "Up to 26 lettered items."));
+  auto* controls = new QGridLayout;
+  controls->addWidget(Framed("Standard payment", payment_, "Type amounts as cents: 2500 is 25.00."), 0, 0);
+  controls->addWidget(Framed("Payment of one invoice", invoice_, "Enter moves to the next field."), 0, 1);
+  controls->addWidget(Framed("Government remittance", remittance_, "Up to 26 lettered items."), 1, 0);
+  controls->addWidget(Framed("Payment with its G/L split", details_,
+                             "Tab past the last amount, or View Dist, to split it over G/L accounts."),
+                      1, 1);
 
   values_->setReadOnly(true);
   values_->setMinimumWidth(320);
@@ -66,6 +74,7 @@ DemoWindow::DemoWindow()
     payment_->SetBusinessMode(on);
     invoice_->SetBusinessMode(on);
     remittance_->SetBusinessMode(on);
+    details_->SetBusinessMode(on);
     RefreshValues();
   });
   auto log = [this](const QString& control) {
@@ -74,6 +83,7 @@ DemoWindow::DemoWindow()
   connect(payment_, &qt::ControlWidget::EventRaised, this, log("StdPayment1"));
   connect(invoice_, &qt::ControlWidget::EventRaised, this, log("PmtDetails1"));
   connect(remittance_, &qt::ControlWidget::EventRaised, this, log("GovtDetails1"));
+  connect(details_, &qt::ControlWidget::EventRaised, this, log("PaymentDetails1"));
   // Typing changes values without events; a host screen polls what it shows.
   auto* poll = new QTimer(this);
   connect(poll, &QTimer::timeout, this, [this] { RefreshValues(); });
@@ -110,6 +120,18 @@ QStringList DemoWindow::HostValues() const {
         << QString("GovtDetails1.OtherAmount = %1").arg(AmountText(remittance_->OtherAmount()))
         << QString("GovtDetails1.Comments = \"%1\"").arg(remittance_->Comments())
         << QString("GovtDetails1.GridNumberofRows = %1").arg(remittance_->GridNumberofRows());
+  lines << QString("PaymentDetails1.PaymentAmount = %1").arg(qt::ToQString(details_->PaymentAmount()))
+        << QString("PaymentDetails1.GST = %1").arg(qt::ToQString(details_->GST()))
+        << QString("PaymentDetails1.NetExpense = %1").arg(qt::ToQString(details_->NetExpense()))
+        << QString("PaymentDetails1.PaymentFor = \"%1\"").arg(details_->PaymentFor())
+        << QString("PaymentDetails1.LockFields = %1").arg(details_->LockFields() ? "True" : "False");
+  int position = 0;
+  for (const QVariant& line : details_->Distributions()) {
+    const QVariantMap map = line.toMap();
+    lines << QString("PaymentDetails1.PayDistribution(%1) = %2 %3")
+                 .arg(++position)
+                 .arg(map.value("GLAccount").toString(), qt::ToQString(map.value("Amount").value<Currency>()));
+  }
   // Reading an item makes its row current: leave the grid alone while the payer is in it.
   std::string active = remittance_->Surface().ActiveChildName();
   if (active == "grItems" || active == "grItems") return lines;

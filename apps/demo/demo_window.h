@@ -8,13 +8,14 @@ class QPlainTextEdit;
 
 namespace zenta::qt {
 class GovtDetails;
+class PaymentDetails;
 class PmtDetails;
 class StdPayment;
 }  // namespace zenta::qt
 
 namespace zenta::demo {
 
-// A bill-payment screen as a host would build it: the three controls, a business-payer switch,
+// A bill-payment screen as a host would build it: the four controls, a business-payer switch,
 // the values the host reads, and a live log of the events it receives.
 class DemoWindow : public QMainWindow {
  public:
@@ -23,6 +24,7 @@ class DemoWindow : public QMainWindow {
   qt::StdPayment& Payment() { return *payment_; }
   qt::PmtDetails& Invoice() { return *invoice_; }
   qt::GovtDetails& Remittance() { return *remittance_; }
+  qt::PaymentDetails& Details() { return *details_; }
   QCheckBox& BusinessSwitch() { return *business_; }
 
   // What a host reads from the controls, one value a line.
@@ -36,6 +38,7 @@ class DemoWindow : public QMainWindow {
   qt::StdPayment* payment_;
   qt::PmtDetails* invoice_;
   qt::GovtDetails* remittance_;
+  qt::PaymentDetails* details_;
   QCheckBox* business_;
   QPlainTextEdit* values_;
   QListWidget* events_;

@@ -34,22 +34,25 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(QuietOffscreenNotes);
   QApplication app(argc, argv);
   zenta::demo::DemoWindow window;
-  window.resize(1180, 620);
+  window.resize(1280, 760);
   window.show();
   if (!session) return app.exec();
 
   QTextStream out(stdout);
   QDir folder(QDir::current().filePath("demo-screenshots"));
   folder.mkpath(".");
-  QStringList shots = zenta::demo::DemoSession(window, folder).Play();
+  zenta::demo::DemoSession played(window, folder);
+  QStringList shots = played.Play();
 
   out << "Played a short session on the bill-payment screen (" << app.platformName() << " platform).\n\n";
   out << "Screenshots saved in " << QDir::toNativeSeparators(folder.absolutePath()) << ":\n";
   for (const QString& shot : shots) out << "  " << QFileInfo(shot).fileName() << "\n";
   out << "\nValues the host read:\n";
   for (const QString& line : window.HostValues()) out << "  " << line << "\n";
+  out << "\nWhat the session checked:\n";
+  for (const QString& line : played.Notes()) out << "  " << line << "\n";
   out << "\nEvents the host received:\n";
   for (const QString& line : window.EventLog()) out << "  " << line << "\n";
   out.flush();
-  return shots.size() == 5 ? EXIT_SUCCESS : EXIT_FAILURE;
+  return played.Complete() && shots.size() == 10 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QHeaderView>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -142,6 +143,12 @@ class ControlsTest : public QObject {
     auto* grid = remittance->findChild<QTableView*>("grItems");
     QVERIFY(grid);
     QCOMPARE(grid->model()->data(grid->model()->index(0, 0)).toString(), QString("A-01"));
+    QCOMPARE(grid->model()->headerData(0, Qt::Horizontal).toString(), QString("Item"));
+    QVERIFY(!grid->isColumnHidden(0));
+    QVERIFY(grid->columnWidth(0) > 0);
+    QVERIFY(grid->verticalHeader()->isHidden());
+    // Both columns fit the grid's width: showing the current amount never scrolls the labels away.
+    QVERIFY(grid->columnWidth(0) + grid->columnWidth(1) <= grid->viewport()->width());
   }
 
   void punctuationTypedInTheGridIsNeverAnArrowKey() {

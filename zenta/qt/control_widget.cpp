@@ -189,6 +189,13 @@ bool ControlWidget::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-QSize ControlWidget::sizeHint() const { return minimumSizeHint(); }
+QSize ControlWidget::sizeHint() const {
+  // A control that sets its own width (the payment grid per mode) asks for it; never less than
+  // its minimum.
+  const QSize minimum = minimumSizeHint();
+  if (!control_ || !surface_) return minimum;
+  const QSize asked = surface_->FittedSize(surface_->RequestedWidth(), surface_->RequestedHeight());
+  return minimum.expandedTo(asked);
+}
 
 }  // namespace zenta::qt

@@ -240,7 +240,13 @@ void FrmDistribution::AfterLinesChanged(bool fill) {
   CalculateDistAmounts();
   model_.RefreshFooters();
   ShowFooters();
-  if (fill && model_.FillRemainingAmount(grid_.Engine().CurrentRow())) grid_.Engine().Rebind();
+  if (fill && model_.FillRemainingAmount(grid_.Engine().CurrentRow())) {
+    grid_.Engine().Rebind();
+    // The filled line changes the totals the footers show.
+    CalculateDistAmounts();
+    model_.RefreshFooters();
+    ShowFooters();
+  }
 }
 
 void FrmDistribution::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {

@@ -23,10 +23,13 @@ GovtItemsTable::GovtItemsTable(platform::Grid& grid, Notifications notifications
   item.caption = "Item";
   item.locked = true;
   item.tab_stop = false;
+  // Both columns fit the grid's width, so scrolling to an amount never hides the labels.
+  item.width = 600;
   engine_.SetColumn(kItemColumn, item);
   platform::GridColumn amount;
   amount.caption = "Amount";
   amount.kind = platform::ColumnKind::Number;
+  amount.width = 870;
   amount.editor_tooltip = "Enter the amount of the payment";
   engine_.SetColumn(kAmountColumn, amount);
 

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
+#include <QWindow>
 #include <QPointer>
 
 #include "zenta/qt/toolkit/qt_button.h"
@@ -10,6 +12,8 @@
 #include "zenta/qt/toolkit/qt_grid_view.h"
 #include "zenta/qt/toolkit/qt_label.h"
 #include "zenta/qt/toolkit/qt_text_box.h"
+#include "zenta/qt/toolkit/twips_layout.h"
+#include "zenta/qt/toolkit/window_activation.h"
 
 namespace zenta::qt {
 
@@ -34,9 +38,46 @@ int QtDialogSurface::ToTwips(int pixels, Qt::Orientation axis) const {
   return qRound(pixels * kTwipsPerInch / dpi);
 }
 
+void QtDialogSurface::Relayout() {
+  const double sx = FontScale(*this, Qt::Horizontal);
+  const double sy = FontScale(*this, Qt::Vertical);
+  for (const auto& [widget, rect] : laid_out_) {
+    if (!widget) continue;
+    widget->setGeometry(qRound(ToPixels(rect.left, Qt::Horizontal) * sx), qRound(ToPixels(rect.top, Qt::Vertical) * sy),
+                        qRound(ToPixels(rect.width, Qt::Horizontal) * sx),
+                        std::max(qRound(ToPixels(rect.height, Qt::Vertical) * sy), widget->minimumSizeHint().height()));
+  }
+  // The rectangle is the outer one: the window manager's frame comes off the client area.
+  const int frame_width = frameGeometry().width() - width();
+  const int frame_height = frameGeometry().height() - height();
+  move(ToPixels(window_rect_.left, Qt::Horizontal), ToPixels(window_rect_.top, Qt::Vertical));
+  resize(std::max(1, qRound(ToPixels(window_rect_.width, Qt::Horizontal) * sx) - frame_width),
+         std::max(1, qRound(ToPixels(window_rect_.height, Qt::Vertical) * sy) - frame_height));
+}
+
+void QtDialogSurface::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::FontChange) Relayout();
+}
+
+void QtDialogSurface::Place(QWidget& child, const platform::TwipsRect& rect) {
+  for (auto& [widget, placed] : laid_out_) {
+    if (widget == &child) placed = rect;
+  }
+  Relayout();
+}
+
+std::optional<platform::TwipsRect> QtDialogSurface::PlacedRect(const QWidget& child) const {
+  for (const auto& [widget, placed] : laid_out_) {
+    if (widget == &child) return placed;
+  }
+  return std::nullopt;
+}
+
 template <class W>
 W& QtDialogSurface::Register(W* widget, const platform::WidgetSpec& definition) {
-  widget->SetRect(definition.rect);
+  laid_out_.emplace_back(widget, definition.rect);
+  Relayout();
   if (widget->focusPolicy() != Qt::NoFocus) {
     if (!definition.tab_stop) {
       widget->setFocusPolicy(Qt::ClickFocus);
@@ -56,7 +97,11 @@ platform::Grid& QtDialogSurface::AddGrid(const platform::WidgetSpec& definition,
 }
 
 platform::TextBox& QtDialogSurface::AddTextBox(const platform::WidgetSpec& definition) {
-  return Register(new QtTextBox(this, definition), definition);
+  auto* box = new QtTextBox(this, definition);
+  if (!children_.empty()) {
+    if (auto* label = dynamic_cast<QLabel*>(children_.back())) label->setBuddy(box);
+  }
+  return Register(box, definition);
 }
 
 platform::Button& QtDialogSurface::AddButton(const platform::WidgetSpec& definition, const std::string& caption) {
@@ -81,24 +126,19 @@ platform::Widget& QtDialogSurface::AddShape(const platform::WidgetSpec& definiti
 
 void QtDialogSurface::SetTitle(const std::string& title) { setWindowTitle(ToQString(title)); }
 
-platform::TwipsRect QtDialogSurface::Rect() const {
-  const QRect outer = frameGeometry();
-  return {ToTwips(outer.x(), Qt::Horizontal), ToTwips(outer.y(), Qt::Vertical), ToTwips(outer.width(), Qt::Horizontal),
-          ToTwips(outer.height(), Qt::Vertical)};
-}
+platform::TwipsRect QtDialogSurface::Rect() const { return window_rect_; }
 
 void QtDialogSurface::SetRect(const platform::TwipsRect& rect) {
-  // The rectangle is the outer one: the window manager's frame comes off the client area.
-  const int frame_width = frameGeometry().width() - width();
-  const int frame_height = frameGeometry().height() - height();
-  move(ToPixels(rect.left, Qt::Horizontal), ToPixels(rect.top, Qt::Vertical));
-  resize(std::max(1, ToPixels(rect.width, Qt::Horizontal) - frame_width),
-         std::max(1, ToPixels(rect.height, Qt::Vertical) - frame_height));
+  window_rect_ = rect;
+  Relayout();
 }
 
 void QtDialogSurface::ShowModal() {
   if (isVisible()) return;
+  QPointer<QWidget> caller = QApplication::activeWindow();
   exec();
+  // The payer goes on in the window that opened the dialog.
+  if (caller) ActivateWindow(*caller);
 }
 
 void QtDialogSurface::showEvent(QShowEvent* event) {
@@ -108,7 +148,9 @@ void QtDialogSurface::showEvent(QShowEvent* event) {
   QMetaObject::invokeMethod(
       this,
       [self] {
-        if (self && self->isVisible() && self->on_activate_) self->on_activate_();
+        if (!self || !self->isVisible()) return;
+        ActivateWindow(*self);
+        if (self->on_activate_) self->on_activate_();
       },
       Qt::QueuedConnection);
 }

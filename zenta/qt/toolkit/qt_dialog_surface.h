@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QPointer>
 #include <map>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "zenta/platform/dialog_surface.h"
@@ -14,7 +16,8 @@ namespace zenta::qt {
 // loop until the dialog's own logic hides the window: Escape, and the title bar's close button,
 // click the cancel button instead of closing, so the logic decides, and the window is never
 // destroyed by the payer. The activation notification runs from a queued call once the window
-// is up, never from inside the call that showed it.
+// is up, never from inside the call that showed it. The layout, drawn in twips for an 8-point
+// font, grows with a larger font, and a label is the buddy of the field after it.
 class QtDialogSurface : public QDialog, public platform::DialogSurface {
  public:
   explicit QtDialogSurface(QWidget* parent = nullptr);
@@ -44,6 +47,9 @@ class QtDialogSurface : public QDialog, public platform::DialogSurface {
 
   platform::Widget* Find(const std::string& name) const;
   QWidget* FindQWidget(const std::string& name) const;
+  // A child's twips rectangle: moves it, and the layout scales it from then on.
+  void Place(QWidget& child, const platform::TwipsRect& rect);
+  std::optional<platform::TwipsRect> PlacedRect(const QWidget& child) const;
 
  public slots:
   void reject() override;
@@ -51,14 +57,19 @@ class QtDialogSurface : public QDialog, public platform::DialogSurface {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   template <class W>
   W& Register(W* widget, const platform::WidgetSpec& definition);
   int ToPixels(int twips, Qt::Orientation axis) const;
+  // The children's and the window's twips drawn for an 8-point font, scaled to the font in use.
+  void Relayout();
   int ToTwips(int pixels, Qt::Orientation axis) const;
 
   std::vector<platform::Widget*> children_;
+  std::vector<std::pair<QPointer<QWidget>, platform::TwipsRect>> laid_out_;
+  platform::TwipsRect window_rect_;
   std::map<const QWidget*, platform::Widget*> by_qwidget_;
   std::map<const platform::Widget*, QWidget*> qwidget_of_;
   QPointer<QWidget> last_tab_stop_;

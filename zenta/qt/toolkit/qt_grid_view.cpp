@@ -69,6 +69,8 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
   verticalHeader()->hide();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   horizontalHeader()->setStretchLastSection(true);
+  // A long caption is cut at its end, never at its start.
+  horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 QtGridView::~QtGridView() = default;
@@ -206,5 +208,19 @@ void QtGridView::focusOutEvent(QFocusEvent* event) {
 }
 
 bool QtGridView::focusNextPrevChild(bool next) { return QWidget::focusNextPrevChild(next); }
+
+bool QtGridView::event(QEvent* event) {
+  // Qt moves the focus on Tab before the widget sees the key; the engine decides first whether
+  // Tab moves to the next cell or leaves the grid.
+  if (event->type() == QEvent::KeyPress) {
+    auto* key = static_cast<QKeyEvent*>(event);
+    const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
+    if (tab && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier))) {
+      keyPressEvent(key);
+      return true;
+    }
+  }
+  return QTableView::event(event);
+}
 
 }  // namespace zenta::qt

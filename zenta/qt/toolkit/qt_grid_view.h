@@ -43,6 +43,7 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
+  bool event(QEvent* event) override;
   void updateGeometries() override;
 
  private:

@@ -11,6 +11,7 @@
 #include "zenta/platform/key_script.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_widget_base.h"
+#include "zenta/qt/toolkit/window_activation.h"
 
 namespace zenta::qt {
 
@@ -87,7 +88,11 @@ platform::MessageResult QtHost::ShowMessage(const platform::MessageBox& box) {
   QMessageBox message(IconOf(box.icon), ToQString(box.title), ToQString(box.text), ButtonsOf(box.buttons),
                       owner_ ? owner_->window() : nullptr);
   message.setTextFormat(Qt::PlainText);
-  return ResultOf(message.exec());
+  QPointer<QWidget> active = QApplication::activeWindow();
+  const platform::MessageResult result = ResultOf(message.exec());
+  // The payer goes on typing in the window the box was over.
+  if (active) ActivateWindow(*active);
+  return result;
 }
 
 Date QtHost::Today() const { return FromQDate(QDate::currentDate()); }

@@ -11,23 +11,16 @@
 #include "zenta/qt/toolkit/qt_check_box.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_date_edit.h"
+#include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_label.h"
 #include "zenta/qt/toolkit/qt_number_edit.h"
 #include "zenta/qt/toolkit/qt_text_box.h"
+#include "zenta/qt/toolkit/twips_layout.h"
 
 namespace zenta::qt {
 
 namespace {
 constexpr double kTwipsPerInch = 1440.0;
-// The layouts were drawn for an 8-point dialog font whose letters average about 5.6 pixels at
-// 96 DPI (measured over the alphabet, as dialog units are) and whose lines are 13 pixels high.
-constexpr double kDesignLetterWidthAt96Dpi = 5.6;
-constexpr double kDesignLineHeightAt96Dpi = 13.0;
-
-double AverageLetterWidth(const QFont& font) {
-  static const QString kAlphabet = QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
-  return QFontMetricsF(font).horizontalAdvance(kAlphabet) / static_cast<double>(kAlphabet.size());
-}
 }  // namespace
 
 QtSurface::QtSurface(QWidget* parent) : QWidget(parent) {
@@ -40,12 +33,7 @@ QtSurface::~QtSurface() {
   if (focused && isAncestorOf(focused)) focused->clearFocus();
 }
 
-double QtSurface::FontScale(Qt::Orientation axis) const {
-  const double design = axis == Qt::Horizontal ? kDesignLetterWidthAt96Dpi * logicalDpiX() / 96.0
-                                               : kDesignLineHeightAt96Dpi * logicalDpiY() / 96.0;
-  const double actual = axis == Qt::Horizontal ? AverageLetterWidth(font()) : QFontMetricsF(font()).height();
-  return std::max(1.0, actual / design);
-}
+double QtSurface::FontScale(Qt::Orientation axis) const { return qt::FontScale(*this, axis); }
 
 void QtSurface::Relayout() {
   if (laid_out_.empty()) return;
@@ -121,6 +109,52 @@ W& QtSurface::Register(W* widget, const platform::WidgetSpec& definition, QWidge
   }
   Track(*widget, *widget, definition.name);
   return *widget;
+}
+
+void QtSurface::SetWidth(int twips) {
+  requested_width_ = twips;
+  resize(ToPixels(twips, Qt::Horizontal), height());
+  updateGeometry();
+  if (parentWidget()) parentWidget()->updateGeometry();
+}
+
+void QtSurface::SetHeight(int twips) {
+  requested_height_ = twips;
+  resize(width(), ToPixels(twips, Qt::Vertical));
+  updateGeometry();
+  if (parentWidget()) parentWidget()->updateGeometry();
+}
+
+void QtSurface::Place(QWidget& child, const platform::TwipsRect& rect) {
+  for (auto& [widget, placed] : laid_out_) {
+    if (widget == &child) placed = rect;
+  }
+  Relayout();
+}
+
+std::optional<platform::TwipsRect> QtSurface::PlacedRect(const QWidget& child) const {
+  for (const auto& [widget, placed] : laid_out_) {
+    if (widget == &child) return placed;
+  }
+  return std::nullopt;
+}
+
+bool PlaceOnSurface(QWidget& widget, const platform::TwipsRect& rect) {
+  if (auto* surface = dynamic_cast<QtSurface*>(widget.parentWidget()); surface && surface->PlacedRect(widget)) {
+    surface->Place(widget, rect);
+    return true;
+  }
+  if (auto* dialog = dynamic_cast<QtDialogSurface*>(widget.parentWidget()); dialog && dialog->PlacedRect(widget)) {
+    dialog->Place(widget, rect);
+    return true;
+  }
+  return false;
+}
+
+std::optional<platform::TwipsRect> RectOnSurface(const QWidget& widget) {
+  if (auto* surface = dynamic_cast<const QtSurface*>(widget.parentWidget())) return surface->PlacedRect(widget);
+  if (auto* dialog = dynamic_cast<const QtDialogSurface*>(widget.parentWidget())) return dialog->PlacedRect(widget);
+  return std::nullopt;
 }
 
 platform::NumberEdit& QtSurface::AddNumberEdit(const platform::WidgetSpec& definition) {

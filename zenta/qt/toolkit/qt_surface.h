@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "zenta/platform/control_surface.h"
@@ -38,8 +39,8 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   void SetEnabled(bool enabled) override { setEnabled(enabled); }
   int Width() const override { return ToTwips(width(), Qt::Horizontal); }
   int Height() const override { return ToTwips(height(), Qt::Vertical); }
-  void SetWidth(int twips) override { resize(ToPixels(twips, Qt::Horizontal), height()); }
-  void SetHeight(int twips) override { resize(width(), ToPixels(twips, Qt::Vertical)); }
+  void SetWidth(int twips) override;
+  void SetHeight(int twips) override;
   bool UserMode() const override { return user_mode_; }
 
   void OnKeyDown(std::function<void(platform::KeyDown&)> handler) override { on_key_down_ = std::move(handler); }
@@ -56,6 +57,12 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   // A size in twips of the drawn layout, in pixels at the current font, and wide enough for
   // every caption.
   QSize FittedSize(int width_twips, int height_twips) const;
+  // The size the control asked for (SetWidth, SetHeight), in twips; 0 when it never asked.
+  int RequestedWidth() const { return requested_width_; }
+  int RequestedHeight() const { return requested_height_; }
+  // A child's twips rectangle: moves it, and the layout scales it from then on.
+  void Place(QWidget& child, const platform::TwipsRect& rect);
+  std::optional<platform::TwipsRect> PlacedRect(const QWidget& child) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -80,6 +87,8 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   bool user_mode_ = true;
   bool shown_once_ = false;
   int caption_width_ = 0;
+  int requested_width_ = 0;
+  int requested_height_ = 0;
   std::function<void(platform::KeyDown&)> on_key_down_;
   platform::Callback on_resize_;
   platform::Callback on_shown_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <string>
 
 #include "zenta/platform/widget.h"
@@ -11,6 +12,11 @@ namespace zenta::qt {
 // Twips (1/1440 inch) and pixels at a logical DPI.
 inline int ToTwipsAlong(int pixels, int dpi) { return dpi > 0 ? pixels * 1440 / dpi : pixels * 15; }
 inline int ToPixelsAlong(int twips, int dpi) { return dpi > 0 ? twips * dpi / 1440 : twips / 15; }
+
+// A child of a control surface is placed through the surface, which keeps the twips rectangle
+// and scales it with the font; these return false / nullopt for any other widget.
+bool PlaceOnSurface(QWidget& widget, const platform::TwipsRect& rect);
+std::optional<platform::TwipsRect> RectOnSurface(const QWidget& widget);
 
 // The platform::Widget members every Qt adapter answers the same way from its QWidget. The
 // enabled state is the widget's own, not inherited from a disabled control.
@@ -32,11 +38,13 @@ class QtWidgetBase : public Interface {
   }
   bool HasFocus() const override { return const_cast<QtWidgetBase*>(this)->FocusTarget().hasFocus(); }
   platform::TwipsRect Rect() const override {
+    if (std::optional<platform::TwipsRect> placed = RectOnSurface(widget_)) return *placed;
     const QRect g = widget_.geometry();
     return {ToTwipsAlong(g.x(), widget_.logicalDpiX()), ToTwipsAlong(g.y(), widget_.logicalDpiY()),
             ToTwipsAlong(g.width(), widget_.logicalDpiX()), ToTwipsAlong(g.height(), widget_.logicalDpiY())};
   }
   void SetRect(const platform::TwipsRect& rect) override {
+    if (PlaceOnSurface(widget_, rect)) return;
     widget_.setGeometry(ToPixelsAlong(rect.left, widget_.logicalDpiX()), ToPixelsAlong(rect.top, widget_.logicalDpiY()),
                         ToPixelsAlong(rect.width, widget_.logicalDpiX()), ToPixelsAlong(rect.height, widget_.logicalDpiY()));
   }
