@@ -13,6 +13,7 @@
 #include "apps/demo/demo_window.h"
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/payment_details.h"
+#include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/records/cls_distributions.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
@@ -23,25 +24,33 @@ namespace zenta::demo {
 
 DemoSession::DemoSession(DemoWindow& window, QDir screenshots) : window_(window), screenshots_(std::move(screenshots)) {}
 
-void DemoSession::Settle() {
-  // Injected keystrokes and deferred refreshes run on the event loop.
-  for (int i = 0; i < 5; ++i) QApplication::processEvents();
-}
-
-void DemoSession::Type(const QString& text) {
-  for (QChar c : text) {
-    QWidget* target = QApplication::focusWidget();
-    if (!target) return;
-    QTest::keyClick(target, c.toLatin1());
-    Settle();
-  }
-}
+void DemoSession::Type(const QString& text) { qt::testing::TypeKeys(text); }
 
 void DemoSession::Press(int key, Qt::KeyboardModifiers modifiers) {
-  QWidget* target = QApplication::focusWidget();
-  if (!target) return;
-  QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
-  Settle();
+  qt::testing::PressKey(static_cast<Qt::Key>(key), modifiers);
+}
+
+void DemoSession::ClickCell(QWidget* grid, int row, int column) {
+  if (!qt::testing::ClickCell(grid, row, column)) complete_ = false;
+}
+
+void DemoSession::Click(QWidget* button) {
+  if (!qt::testing::Click(button)) complete_ = false;
+}
+
+void DemoSession::Settle() { qt::testing::Settle(); }
+
+void DemoSession::Refused(const QString& screenshot) {
+  qt::testing::AnswerNextMessage(QMessageBox::Ok, [this, screenshot](QMessageBox& box) {
+    notes_ << QString("Message \"%1\": %2").arg(box.windowTitle(), box.text());
+    ShootWidget(box, screenshot);
+  });
+}
+
+void DemoSession::CheckOpened(const qt::testing::DialogScript& script, const QString& step) {
+  if (script.Ran()) return;
+  complete_ = false;
+  notes_ << QString("%1: the distribution window did not open.").arg(step);
 }
 
 void DemoSession::Shoot(const QString& name) {
@@ -57,91 +66,12 @@ void DemoSession::ShootWidget(QWidget& widget, const QString& name) {
   if (widget.grab().save(path)) written_ << path;
 }
 
-void DemoSession::ClickCell(QWidget* grid, int row, int column) {
-  auto* view = qobject_cast<QTableView*>(grid);
-  if (!view) {
-    complete_ = false;
-    return;
-  }
-  const QRect cell = view->visualRect(view->model()->index(row, column));
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
-  Settle();
-  // Storing the row being left may send the focus on (a balanced window to its Accept button);
-  // a payer who wants the cell clicks it again.
-  if (!view->hasFocus()) {
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
-    Settle();
-  }
-}
-
-void DemoSession::Click(QWidget* button) {
-  if (auto* push = qobject_cast<QAbstractButton*>(button)) {
-    QTest::mouseClick(push, Qt::LeftButton);
-  } else {
-    complete_ = false;
-  }
-  Settle();
-}
-
-void DemoSession::WhenDialogShows(std::function<void(qt::QtDialogSurface&)> script) {
-  auto poll = std::make_shared<std::function<void()>>();
-  const int step = ++step_;
-  *poll = [this, script, poll, step] {
-    if (step != step_) return;  // that step is over: its window never opened
-    auto* dialog = dynamic_cast<qt::QtDialogSurface*>(QApplication::activeModalWidget());
-    if (dialog && dialog->isVisible() && dialog->isActiveWindow()) {
-      dialog_steps_run_ = step;
-      Settle();  // the window's own activation runs first, as it would before a person types
-      script(*dialog);
-      *poll = nullptr;
-      return;
-    }
-    QTimer::singleShot(10, *poll);
-  };
-  QTimer::singleShot(0, *poll);
-}
-
-void DemoSession::AnswerNextMessage(const QString& screenshot, int button) {
-  auto attempts = std::make_shared<int>(0);
-  auto poll = std::make_shared<std::function<void()>>();
-  *poll = [this, screenshot, button, attempts, poll] {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-      notes_ << QString("Message \"%1\": %2").arg(box->windowTitle(), box->text());
-      ShootWidget(*box, screenshot);
-      if (QAbstractButton* answer = box->button(static_cast<QMessageBox::StandardButton>(button))) {
-        answer->click();
-      } else {
-        complete_ = false;
-        box->accept();
-      }
-      *poll = nullptr;
-      return;
-    }
-    if (++*attempts > 300) {
-      complete_ = false;
-      *poll = nullptr;
-      return;
-    }
-    QTimer::singleShot(10, *poll);
-  };
-  QTimer::singleShot(0, *poll);
-}
-
-void DemoSession::EndStep() {
-  if (dialog_steps_run_ != step_) {
-    complete_ = false;
-    notes_ << QString("Step %1: the distribution window did not open.").arg(step_);
-  }
-  ++step_;
-  dialog_steps_run_ = step_;
-}
-
 void DemoSession::PlayPaymentSplit() {
   // A business payment of 113.00 with 13.00 GST/HST: Tab past the GST/HST opens the window
   // with the 100.00 net expense proposed on the default account.
   auto& details = window_.Details();
   QWidget* grid = details.Surface().FindQWidget("grdPaymentAmount");
-  WhenDialogShows([this](qt::QtDialogSurface& dialog) {
+  qt::testing::DialogScript split([this](qt::QtDialogSurface& dialog) {
     QWidget* lines = dialog.FindQWidget("grTempDistribution");
     ClickCell(lines, 0, 2);
     Type("6000");
@@ -159,7 +89,7 @@ void DemoSession::PlayPaymentSplit() {
   Press(Qt::Key_Tab);  // on to the "View Dist" button
   Press(Qt::Key_Tab);  // past the last cell: the window opens
   Settle();
-  EndStep();
+  CheckOpened(split, "The business payment");
   QString reason;
   const bool valid = details.IsDataValid(reason);
   notes_ << QString("PaymentDetails1.IsDataValid = %1 (\"%2\")").arg(valid ? "True" : "False", reason);
@@ -178,9 +108,9 @@ void DemoSession::PlaySplitWithRefusal() {
   kept->Add(Variant(), "5200", Currency::FromText("70"));
   kept->Add(Variant(), "5300", Currency::FromText("-25"));
   details.Control().SetPayDistribution(kept);
-  WhenDialogShows([this](qt::QtDialogSurface& dialog) {
+  qt::testing::DialogScript split([this](qt::QtDialogSurface& dialog) {
     QWidget* lines = dialog.FindQWidget("grTempDistribution");
-    AnswerNextMessage("08-split-refused.png", QMessageBox::Ok);
+    Refused("08-split-refused.png");
     Click(dialog.FindQWidget("cmdGLAccept"));
     ClickCell(lines, 2, 2);
     Type("-2000");
@@ -191,7 +121,7 @@ void DemoSession::PlaySplitWithRefusal() {
   });
   details.ShowDistribution();
   Settle();
-  EndStep();
+  CheckOpened(split, "The kept split");
   for (const QVariant& line : details.Distributions()) {
     const QVariantMap map = line.toMap();
     notes_ << QString("Accepted line: %1 %2").arg(map.value("GLAccount").toString(),

@@ -7,8 +7,8 @@
 
 class QWidget;
 
-namespace zenta::qt {
-class QtDialogSurface;
+namespace zenta::qt::testing {
+class DialogScript;
 }
 
 namespace zenta::demo {
@@ -36,14 +36,9 @@ class DemoSession {
   void ShootWidget(QWidget& widget, const QString& name);
   void ClickCell(QWidget* grid, int row, int column);
   void Click(QWidget* button);
-  // The distribution window is modal: the call that opens it returns only once it hides, so
-  // what the payer does in it is queued first and runs once the window is up.
-  void WhenDialogShows(std::function<void(qt::QtDialogSurface&)> script);
-  // Answers the next message box with `button` (a QMessageBox::StandardButton), after a
-  // screenshot of it.
-  void AnswerNextMessage(const QString& screenshot, int button);
-  // Closes a step that opened the window: a step whose window never opened is reported.
-  void EndStep();
+  // Answers the next message box with OK, after noting its texts and a screenshot of it.
+  void Refused(const QString& screenshot);
+  void CheckOpened(const qt::testing::DialogScript& script, const QString& step);
   void PlayPaymentSplit();
   void PlaySplitWithRefusal();
   void PlayLockedFields();
@@ -53,8 +48,6 @@ class DemoSession {
   QStringList written_;
   QStringList notes_;
   bool complete_ = true;
-  int step_ = 0;
-  int dialog_steps_run_ = 0;
 };
 
 }  // namespace zenta::demo

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QEvent>
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QVBoxLayout>
@@ -67,6 +68,12 @@ void ControlWidget::WatchChildren() {
   // Typed changes reach the NOTIFY signals through the fields' own change signals.
   for (QLineEdit* edit : surface_->findChildren<QLineEdit*>()) {
     connect(edit, &QLineEdit::textChanged, this, [this] { NotifyChanges(); });
+  }
+  for (QAbstractItemView* grid : surface_->findChildren<QAbstractItemView*>()) {
+    QAbstractItemModel* model = grid->model();
+    if (!model) continue;
+    connect(model, &QAbstractItemModel::dataChanged, this, [this] { NotifyChanges(); });
+    connect(model, &QAbstractItemModel::modelReset, this, [this] { NotifyChanges(); });
   }
   for (QAbstractButton* button : surface_->findChildren<QAbstractButton*>()) {
     connect(button, &QAbstractButton::toggled, this, [this] { NotifyChanges(); });

@@ -166,6 +166,11 @@ void QtGridView::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  if (key.key_code == platform::keys::kEscape) {
+    // Nothing to abandon: the window's cancel button hears it.
+    event->ignore();
+    return;
+  }
   if (key.key_code == platform::keys::kTab) {
     // Tab the grid does not use leaves it, as from any field.
     focusNextPrevChild((key.shift & platform::kShift) == 0);

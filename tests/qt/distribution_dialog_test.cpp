@@ -1,0 +1,152 @@
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "zenta/controls/distribution/library_context.h"
+#include "zenta/qt/application_context.h"
+#include "zenta/qt/payment_details.h"
+#include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/records/cls_distributions.h"
+
+namespace zenta::qt {
+
+using testing::ClickCell;
+using testing::DialogScript;
+using testing::PressKey;
+using testing::TypeKeys;
+
+// The distribution window on Qt, opened as hosts open it: through the payment control. Its rules
+// are tested headless; these check the QDialog: modality, Escape, buttons, message boxes over
+// it, the footer row, red refunds, and one window kept between uses.
+class DistributionDialogTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<QWidget> window_;
+  PaymentDetails* payment_ = nullptr;
+
+  static Currency Money(const char* text) { return Currency::FromText(text); }
+  void Keep(std::initializer_list<std::pair<const char*, const char*>> lines) {
+    auto kept = std::make_shared<clsDistributions>();
+    for (const auto& [account, amount] : lines) kept->Add(Variant(), account, Money(amount));
+    payment_->Control().SetPayDistribution(kept);
+  }
+  QStringList Lines() const {
+    QStringList lines;
+    for (const QVariant& line : payment_->Distributions()) {
+      const QVariantMap map = line.toMap();
+      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
+    }
+    return lines;
+  }
+
+ private slots:
+  void init() {
+    window_ = std::make_unique<QWidget>();
+    auto* layout = new QVBoxLayout(window_.get());
+    payment_ = new PaymentDetails;
+    layout->addWidget(payment_);
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    payment_->SetPaymentAmount(Money("150"));
+  }
+
+  void cleanup() { window_.reset(); }
+
+  void unequalTotalsAreRefusedUntilTheLinesBalance() {
+    Keep({{"5100", "100"}, {"5200", "70"}, {"5300", "-25"}});
+    QString title;
+    QString text;
+    QColor refund;
+    QString footer;
+    DialogScript split([&](QtDialogSurface& dialog) {
+      auto* lines = qobject_cast<QTableView*>(dialog.FindQWidget("grTempDistribution"));
+      QVERIFY(lines);
+      testing::AnswerNextMessage(QMessageBox::Ok, [&](QMessageBox& box) {
+        title = box.windowTitle();
+        text = box.text();
+      });
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+      QVERIFY(dialog.isVisible());
+      QVERIFY(ClickCell(lines, 2, 2));
+      TypeKeys("-2000");
+      PressKey(Qt::Key_Tab);
+      refund = lines->model()->index(2, 2).data(Qt::ForegroundRole).value<QColor>();
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+    });
+    payment_->ShowDistribution();
+    QVERIFY(split.Ran());
+    QCOMPARE(title, QString("Cannot accept distibution."));
+    QCOMPARE(text, QString("The total amounts you enter must be equal to the 'Amount to Distribute'."));
+    QCOMPARE(refund, QColor(Qt::red));
+    QCOMPARE(Lines(), (QStringList{"5100 100", "5200 70", "5300 -20"}));
+  }
+
+  void escapeCancelsAndKeepsTheCallersLines() {
+    Keep({{"5100", "150"}});
+    DialogScript cancel([](QtDialogSurface& dialog) {
+      QVERIFY(ClickCell(dialog.FindQWidget("grTempDistribution"), 0, 2));
+      TypeKeys("9900");
+      PressKey(Qt::Key_Escape);  // abandons the cell edit
+      PressKey(Qt::Key_Escape);  // clicks Cancel
+      QVERIFY(!dialog.isVisible());
+    });
+    payment_->ShowDistribution();
+    QVERIFY(cancel.Ran());
+    QCOMPARE(Lines(), (QStringList{"5100 150"}));
+  }
+
+  void aLineIsDeletedFromItsButtonAfterTheQuestion() {
+    Keep({{"5100", "100"}, {"5200", "50"}, {"5300", "25"}});
+    QString question;
+    DialogScript remove([&](QtDialogSurface& dialog) {
+      QWidget* lines = dialog.FindQWidget("grTempDistribution");
+      testing::AnswerNextMessage(QMessageBox::Yes, [&](QMessageBox& box) { question = box.text(); });
+      ClickCell(lines, 2, 0);
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+    });
+    payment_->ShowDistribution();
+    QVERIFY(remove.Ran());
+    QCOMPARE(question, QString("Are you sure you want to delete this distribution?"));
+    QCOMPARE(Lines(), (QStringList{"5100 100", "5200 50"}));
+  }
+
+  void oneWindowServesEveryCallerAndShowsItsFooter() {
+    Keep({{"5100", "150"}});
+    QtDialogSurface* first = nullptr;
+    QString footer_caption;
+    DialogScript look([&](QtDialogSurface& dialog) {
+      first = &dialog;
+      auto* lines = qobject_cast<QTableView*>(dialog.FindQWidget("grTempDistribution"));
+      QVERIFY(lines);
+      // The footer row sits under the rows, inside the grid.
+      QWidget* footer = nullptr;
+      for (QWidget* child : lines->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child->isVisible() && child->geometry().top() > lines->viewport()->geometry().bottom()) footer = child;
+      }
+      QVERIFY(footer);
+      QCOMPARE(lines->model()->headerData(0, Qt::Horizontal).toString(), QString("Del"));
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+    });
+    payment_->ShowDistribution();
+    QVERIFY(look.Ran());
+    QtDialogSurface* second = nullptr;
+    DialogScript again([&](QtDialogSurface& dialog) {
+      second = &dialog;
+      testing::Click(dialog.FindQWidget("cmdGLCancel"));
+    });
+    payment_->ShowDistribution();
+    QVERIFY(again.Ran());
+    QCOMPARE(second, first);
+    QVERIFY(ApplicationContext().HasDistribution());
+  }
+};
+
+}  // namespace zenta::qt
+
+QTEST_MAIN(zenta::qt::DistributionDialogTest)
+#include "distribution_dialog_test.moc"

@@ -1,0 +1,130 @@
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "zenta/qt/payment_details.h"
+#include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_surface.h"
+
+namespace zenta::qt {
+
+using testing::ClickCell;
+using testing::DialogScript;
+using testing::PressKey;
+using testing::TypeKeys;
+
+// The payment control on Qt, driven by real keys and clicks: the rules are tested on the
+// headless toolkit; these check what only Qt can break (Tab into the grid's engine, the modal
+// window from a posted call, by-reference event arguments, property signals).
+class PaymentDetailsTest : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<QWidget> window_;
+  PaymentDetails* payment_ = nullptr;
+
+  QWidget* Grid() const { return payment_->Surface().FindQWidget("grdPaymentAmount"); }
+  static Currency Money(const char* text) { return Currency::FromText(text); }
+  QStringList Lines() const {
+    QStringList lines;
+    for (const QVariant& line : payment_->Distributions()) {
+      const QVariantMap map = line.toMap();
+      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
+    }
+    return lines;
+  }
+
+ private slots:
+  void init() {
+    window_ = std::make_unique<QWidget>();
+    auto* layout = new QVBoxLayout(window_.get());
+    payment_ = new PaymentDetails;
+    layout->addWidget(payment_);
+    layout->addWidget(new QLineEdit);
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+  }
+
+  void cleanup() { window_.reset(); }
+
+  void aBusinessPaymentTabsIntoTheWindowAndSplitsTheNetExpense() {
+    payment_->SetBusinessMode(true);
+    payment_->SetDefaultGLAccount("5100");
+    QSignalSpy balanced(payment_, &PaymentDetails::GLBalanced);
+    QSignalSpy amount(payment_, &PaymentDetails::PaymentAmountChanged);
+    DialogScript split([](QtDialogSurface& dialog) {
+      QWidget* lines = dialog.FindQWidget("grTempDistribution");
+      QVERIFY(ClickCell(lines, 0, 2));
+      TypeKeys("6000");
+      PressKey(Qt::Key_Tab);
+      QVERIFY(ClickCell(lines, 4, 1));
+      TypeKeys("5200");
+      PressKey(Qt::Key_Tab);
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+    });
+    QVERIFY(ClickCell(Grid(), 0, 0));
+    TypeKeys("11300");
+    PressKey(Qt::Key_Tab);
+    TypeKeys("1300");
+    PressKey(Qt::Key_Tab);
+    PressKey(Qt::Key_Tab);
+    QVERIFY(split.Ran());
+    QCOMPARE(payment_->PaymentAmount(), Money("113"));
+    QCOMPARE(payment_->GST(), Money("13"));
+    QCOMPARE(payment_->NetExpense(), Money("100"));
+    QVERIFY(amount.count() > 0);
+    QCOMPARE(Lines(), (QStringList{"5100 60", "5200 40"}));
+    QCOMPARE(balanced.count(), 2);
+    QString reason = "unchanged";
+    QVERIFY(payment_->IsDataValid(reason));
+    QCOMPARE(reason, QString());
+  }
+
+  void aHostVetoThroughTheTypedSignalEmptiesTheAmount() {
+    connect(payment_, &PaymentDetails::PayAmtBeforeUpdate, this, [](bool& Cancel) { Cancel = true; });
+    QSignalSpy asked(payment_, &PaymentDetails::GetPayAmount);
+    QVERIFY(ClickCell(Grid(), 0, 0));
+    TypeKeys("11300");
+    PressKey(Qt::Key_Tab);
+    QCOMPARE(payment_->PaymentAmount(), Currency());
+    QVERIFY(asked.count() >= 1);
+  }
+
+  void aLateBoundHostVetoesThroughEventRaised() {
+    connect(payment_, &ControlWidget::EventRaised, this, [](int number, const QString&, QVariantList& args) {
+      if (number == 6 && !args.isEmpty()) args[0] = true;  // GSTAmtBeforeUpdate
+    });
+    payment_->SetBusinessMode(true);
+    QVERIFY(ClickCell(Grid(), 0, 0));
+    TypeKeys("11300");
+    PressKey(Qt::Key_Tab);
+    TypeKeys("1300");
+    PressKey(Qt::Key_Tab);
+    QCOMPARE(payment_->GST(), Currency());
+    QCOMPARE(payment_->NetExpense(), Money("113"));
+  }
+
+  void aKeyInALockedAmountNamesItsColumn() {
+    payment_->SetPaymentAmount(Money("50"));
+    payment_->SetLockFields(true);
+    QString named;
+    connect(payment_, &PaymentDetails::KeypressLockedField, this, [&named](QString& Field) { named = Field; });
+    QVERIFY(ClickCell(Grid(), 0, 0));
+    TypeKeys("7");
+    QCOMPARE(named, QString("Payment Amount"));
+    QCOMPARE(payment_->PaymentAmount(), Money("50"));
+  }
+
+  void theBusinessLayoutAsksForItsWidth() {
+    payment_->SetBusinessMode(false);
+    const int narrow = payment_->sizeHint().width();
+    payment_->SetBusinessMode(true);
+    QVERIFY(payment_->sizeHint().width() > narrow);
+  }
+};
+
+}  // namespace zenta::qt
+
+QTEST_MAIN(zenta::qt::PaymentDetailsTest)
+#include "payment_details_test.moc"
