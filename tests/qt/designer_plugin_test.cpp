@@ -23,7 +23,8 @@ class DesignerPluginTest : public QObject {
       QVERIFY(created);
       QVERIFY(created->minimumSizeHint().isValid());
     }
-    QCOMPARE(names, QStringList({"zenta::qt::StdPayment", "zenta::qt::PmtDetails", "zenta::qt::GovtDetails"}));
+    QCOMPARE(names, QStringList({"zenta::qt::StdPayment", "zenta::qt::PmtDetails", "zenta::qt::GovtDetails",
+                                   "zenta::qt::PaymentDetails"}));
   }
 };
 

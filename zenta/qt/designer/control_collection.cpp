@@ -2,6 +2,7 @@
 
 #include "zenta/qt/designer/control_plugin.h"
 #include "zenta/qt/govt_details.h"
+#include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
 
@@ -23,6 +24,12 @@ ControlCollection::ControlCollection(QObject* parent) : QObject(parent) {
        "Periods, due date, statement-only flag, comments, amounts and up to 26 lettered line items.",
        ":/zenta/designer/govt_details.svg"},
       [](QWidget* form) { return new GovtDetails(form); }, this));
+  widgets_.append(new ControlPlugin(
+      {"zenta::qt::PaymentDetails", "zenta/qt/payment_details.h", "Payment with its G/L distribution",
+       "One payment's amount, GST/HST, net expense and what it is for, split over G/L accounts in the "
+       "distribution window.",
+       ":/zenta/designer/payment_details.svg"},
+      [](QWidget* form) { return new PaymentDetails(form); }, this));
 }
 
 }  // namespace zenta::qt
