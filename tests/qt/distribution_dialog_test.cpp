@@ -8,6 +8,7 @@
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/qt/application_context.h"
 #include "zenta/platform/array_2d.h"
+#include "tests/qt/distribution_lines.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_surface.h"
@@ -36,14 +37,7 @@ class DistributionDialogTest : public QObject {
     for (const auto& [account, amount] : lines) kept->Add(Variant(), account, Money(amount));
     payment_->Control().SetPayDistribution(kept);
   }
-  QStringList Lines() const {
-    QStringList lines;
-    for (const QVariant& line : payment_->Distributions()) {
-      const QVariantMap map = line.toMap();
-      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
-    }
-    return lines;
-  }
+  QStringList Lines() const { return testing::LinesOf(*payment_); }
 
  private slots:
   void init() {

@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "tests/qt/distribution_lines.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_surface.h"
@@ -26,14 +27,7 @@ class PaymentDetailsTest : public QObject {
 
   QWidget* Grid() const { return payment_->Surface().FindQWidget("grdPaymentAmount"); }
   static Currency Money(const char* text) { return Currency::FromText(text); }
-  QStringList Lines() const {
-    QStringList lines;
-    for (const QVariant& line : payment_->Distributions()) {
-      const QVariantMap map = line.toMap();
-      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
-    }
-    return lines;
-  }
+  QStringList Lines() const { return testing::LinesOf(*payment_); }
 
  private slots:
   void init() {

@@ -99,11 +99,4 @@ platform::Widget* Dialog::ActiveChild() const {
 
 bool Dialog::CanFocus(const platform::Widget& widget) const { return form_.CanFocus(&widget); }
 
-platform::Widget* Dialog::Find(const std::string& name) const {
-  for (const auto& node : nodes_) {
-    if (node->AsWidget().Name() == name) return &node->AsWidget();
-  }
-  return nullptr;
-}
-
 }  // namespace zenta::headless

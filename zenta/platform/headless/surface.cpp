@@ -82,13 +82,6 @@ void Surface::SetSize(int width_twips, int height_twips) {
   }
 }
 
-platform::Widget* Surface::Find(const std::string& name) const {
-  for (const auto& node : nodes_) {
-    if (node->AsWidget().Name() == name) return &node->AsWidget();
-  }
-  return nullptr;
-}
-
 void Surface::PreviewKeyDown(platform::KeyDown& key) {
   if (on_key_down_) on_key_down_(key);
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "zenta/platform/control_surface.h"
+#include "zenta/platform/headless/child_lookup.h"
 #include "zenta/platform/headless/input_node.h"
 
 namespace zenta::headless {
@@ -48,14 +49,10 @@ class Surface : public platform::ControlSurface {
   // As the host resizing the control: one resize notification when the size changes.
   void SetSize(int width_twips, int height_twips);
 
-  platform::Widget* Find(const std::string& name) const;
+  platform::Widget* Find(const std::string& name) const { return ChildLookup(nodes_, name_).Find(name); }
   template <class T>
   T& Get(const std::string& name) const {
-    platform::Widget* widget = Find(name);
-    if (!widget) throw std::logic_error("no widget named " + name + " on " + name_);
-    auto* typed = dynamic_cast<T*>(widget);
-    if (!typed) throw std::logic_error(name + " on " + name_ + " is not of the kind asked for");
-    return *typed;
+    return ChildLookup(nodes_, name_).Get<T>(name);
   }
 
   // Used by the Form.
