@@ -36,6 +36,21 @@ TEST_F(CommonPropertiesTest, FirstCreationSetsDefaultsWithoutBusinessMode) {
   EXPECT_THAT(hooks, ElementsAre("title"));
 }
 
+// Every store, every key: a value that cannot be taken falls back to that key's default alone.
+TEST_F(CommonPropertiesTest, AMistypedOrOutOfRangeValueFallsBackForItsKeyOnly) {
+  headless::MemoryPropertyBag bag;
+  bag.Set("BackColor", Variant(std::string("teal")));   // type mismatch (13)
+  bag.Set("Enabled", Variant(false));
+  bag.Set("BackColorTitle", Variant(1e12));               // overflow (6)
+  bag.Set("BusinessMode", Variant(std::string("maybe")));  // type mismatch
+  properties.Read(bag);
+  EXPECT_EQ(surface.BackColor(), colors::kButtonFace);
+  EXPECT_FALSE(surface.Enabled());
+  EXPECT_EQ(properties.BackColorTitle(), colors::kTitleBlue);
+  EXPECT_FALSE(properties.BusinessMode());
+  EXPECT_THAT(bag.RefusedKeys(), ElementsAre("BackColor", "BackColorTitle", "BusinessMode"));
+}
+
 TEST_F(CommonPropertiesTest, LoadingRunsTheStepsInOrder) {
   headless::MemoryPropertyBag bag;
   bag.Set("Enabled", Variant(false));

@@ -111,6 +111,15 @@ TEST(Array2D, AnUpperBoundAtTheEndOfIntCannotGrowPastIt) {
   EXPECT_EQ(items.UpperBound(1), INT_MAX);
   EXPECT_EQ(ErrorNumberOf([&] { items.AppendRows(1); }), kOutOfMemory);
   EXPECT_EQ(items.RowCount(), 2);
+  Array2D wide(0, 0, INT_MAX - 1, INT_MAX);
+  EXPECT_EQ(wide.UpperBound(2), INT_MAX);
+}
+
+TEST(Array2D, AnEmptiedArrayAtTheSmallestIntHasNoUpperBound) {
+  Array2D items(INT_MIN, INT_MIN, 0, 0);
+  items.DeleteRows(INT_MIN, 1);
+  EXPECT_EQ(items.RowCount(), 0);
+  EXPECT_EQ(ErrorNumberOf([&] { (void)items.UpperBound(1); }), kSubscriptOutOfRange);
 }
 
 }  // namespace

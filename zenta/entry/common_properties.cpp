@@ -1,5 +1,7 @@
 #include "zenta/entry/common_properties.h"
 
+#include "zenta/entry/persisted_values.h"
+
 namespace zenta::entry {
 
 namespace {
@@ -7,9 +9,6 @@ constexpr const char* kBackColor = "BackColor";
 constexpr const char* kEnabled = "Enabled";
 constexpr const char* kBackColorTitle = "BackColorTitle";
 constexpr const char* kBusinessMode = "BusinessMode";
-
-Variant ColorVariant(OleColor color) { return Variant(static_cast<std::int32_t>(color)); }
-OleColor ColorOf(const Variant& value) { return static_cast<OleColor>(value.ToLong()); }
 
 void Run(const std::function<void()>& hook) {
   if (hook) hook();
@@ -29,12 +28,12 @@ void CommonProperties::InitNew() {
 }
 
 void CommonProperties::Read(const platform::PropertyBag& bag) {
-  surface_.SetBackColor(ColorOf(bag.Read(kBackColor, ColorVariant(colors::kButtonFace))));
-  surface_.SetEnabled(bag.Read(kEnabled, Variant(true)).ToBool());
+  surface_.SetBackColor(ReadColor(bag, kBackColor, colors::kButtonFace));
+  surface_.SetEnabled(ReadFlag(bag, kEnabled, true));
   Run(hooks_.propagate_enabled);
-  title_color_ = ColorOf(bag.Read(kBackColorTitle, ColorVariant(default_title_color_)));
+  title_color_ = ReadColor(bag, kBackColorTitle, default_title_color_);
   Run(hooks_.apply_title_color);
-  business_mode_ = bag.Read(kBusinessMode, Variant(false)).ToBool();
+  business_mode_ = ReadFlag(bag, kBusinessMode, false);
   Run(hooks_.business_mode_changed);
 }
 

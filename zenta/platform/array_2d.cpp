@@ -54,9 +54,18 @@ int Array2D::LowerBound(int dimension) const {
 }
 
 int Array2D::UpperBound(int dimension) const {
-  if (dimension == 1) return row_lower_ + RowCount() - 1;
-  if (dimension == 2) return column_lower_ + column_count_ - 1;
-  throw HostError::SubscriptOutOfRange(kSource);
+  // In 64 bits: lower + count can pass the largest int although the bound itself fits, and
+  // an empty dimension starting at the smallest int has no upper bound an int can hold.
+  std::int64_t upper = 0;
+  if (dimension == 1) {
+    upper = std::int64_t{row_lower_} + RowCount() - 1;
+  } else if (dimension == 2) {
+    upper = std::int64_t{column_lower_} + column_count_ - 1;
+  } else {
+    throw HostError::SubscriptOutOfRange(kSource);
+  }
+  if (upper < std::numeric_limits<int>::min()) throw HostError::SubscriptOutOfRange(kSource);
+  return static_cast<int>(upper);
 }
 
 std::size_t Array2D::Index(int row, int column) const {

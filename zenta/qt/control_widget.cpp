@@ -166,7 +166,9 @@ void ControlWidget::changeEvent(QEvent* event) {
 
 void ControlWidget::LoadProperties(QSettings* settings, const QString& group) {
   if (!settings) return;
-  Guard([&] { ReadProperties(SettingsPropertyBag(*settings, group)); });
+  SettingsPropertyBag bag(*settings, group);
+  Guard([&] { ReadProperties(bag); });
+  for (const std::string& key : bag.RefusedKeys()) emit PropertyRefused(ToQString(key));
 }
 
 void ControlWidget::SaveProperties(QSettings* settings, const QString& group) const {

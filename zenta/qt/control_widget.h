@@ -72,6 +72,8 @@ class ControlWidget : public QWidget {
   // Every event by its number; a connected slot may change the in/out arguments.
   void EventRaised(int number, const QString& name, QVariantList& args);
   void HostErrorRaised(quint32 number, const QString& source, const QString& description);
+  // LoadProperties found a stored value it could not take for `key`; the key kept its default.
+  void PropertyRefused(const QString& key);
   void BackColorChanged();
   void BusinessModeChanged();
   void BackColorTitleChanged();

@@ -1,6 +1,6 @@
 #include "zenta/controls/payment_details/payment_properties.h"
 
-#include "zenta/core/host_error.h"
+#include "zenta/entry/persisted_values.h"
 
 namespace zenta {
 
@@ -9,21 +9,12 @@ namespace {
 constexpr const char* kBusinessMode = "BusinessMode";
 constexpr const char* kLockFields = "LockFields";
 
-// A stored value that is no boolean leaves that key at its default.
-bool ReadFlag(const platform::PropertyBag& bag, const char* key) {
-  try {
-    return bag.Read(key, Variant(false)).ToBool();
-  } catch (const HostError&) {
-    return false;
-  }
-}
-
 }  // namespace
 
 PaymentProperties PaymentProperties::Read(const platform::PropertyBag& bag) {
   PaymentProperties read;
-  read.business_mode = ReadFlag(bag, kBusinessMode);
-  read.lock_fields = ReadFlag(bag, kLockFields);
+  read.business_mode = entry::ReadFlag(bag, kBusinessMode, false);
+  read.lock_fields = entry::ReadFlag(bag, kLockFields, false);
   return read;
 }
 

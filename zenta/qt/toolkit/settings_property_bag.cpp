@@ -70,7 +70,9 @@ QString SettingsPropertyBag::KeyOf(const std::string& key) const {
 Variant SettingsPropertyBag::Read(const std::string& key, const Variant& default_value) const {
   const QString path = KeyOf(key);
   if (!settings_.contains(path)) return default_value;
-  return ReadAs(default_value.GetType(), settings_.value(path).toString()).value_or(default_value);
+  std::optional<Variant> value = ReadAs(default_value.GetType(), settings_.value(path).toString());
+  if (!value) NoteRefused(key);
+  return value.value_or(default_value);
 }
 
 void SettingsPropertyBag::Write(const std::string& key, const Variant& value, const Variant& default_value) {
