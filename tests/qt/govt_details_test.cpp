@@ -109,6 +109,15 @@ class GovtDetailsTest : public QObject {
     QCOMPARE(comments.count(), 1);
     QVERIFY(remittance_->SetRows(20));
   }
+
+  void aTrueStatementOnlyChecksTheBox() {
+    QVERIFY(remittance_->setProperty("StatementOnly", true));
+    auto* box = qobject_cast<QCheckBox*>(remittance_->Surface().FindQWidget("chkStatementOnly"));
+    QVERIFY(box);
+    QCOMPARE(box->checkState(), Qt::Checked);
+    QCOMPARE(remittance_->StatementOnly().toInt(), 1);
+    QVERIFY(!remittance_->CommentsEnabled());
+  }
 };
 
 }  // namespace zenta::qt

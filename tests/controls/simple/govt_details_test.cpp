@@ -177,6 +177,14 @@ TEST_F(GovtDetailsTest, StatementOnlyLocksAllButTheAmountAndKeepsValues) {
   EXPECT_EQ(control.PeriodFrom().ToText(), "2026/01/01");
 }
 
+TEST_F(GovtDetailsTest, ATrueStatementOnlyChecksTheBoxAndLocksTheFields) {
+  control.SetStatementOnly(Variant(true));  // -1 as a 16-bit integer
+  EXPECT_EQ(control.StatementOnly(), Variant(std::int16_t{1}));
+  EXPECT_FALSE(control.CommentsEnabled());
+  control.SetStatementOnly(Variant(std::int16_t{0}));
+  EXPECT_TRUE(control.CommentsEnabled());
+}
+
 TEST_F(GovtDetailsTest, CommentsKeepLettersDigitsAndSomePunctuationInUpperCase) {
   user.Click(screen.Get<platform::TextBox>("txtComments"));
   user.Type("tel: 555-1234, ext.9 #2");

@@ -122,7 +122,12 @@ Date GovtDetails::DueDate() const { return w_.due_date.Value().value_or(Date());
 void GovtDetails::SetDueDate(Date value) { w_.due_date.SetValue(value); }
 
 Variant GovtDetails::StatementOnly() const { return Variant(static_cast<std::int16_t>(w_.statement_only.State())); }
-void GovtDetails::SetStatementOnly(const Variant& value) { w_.statement_only.SetState(value.ToInteger()); }
+void GovtDetails::SetStatementOnly(const Variant& value) {
+  // True arrives as -1: every value but 0 (unchecked) and 2 (grayed) checks the box, the same
+  // on every toolkit.
+  const int state = value.ToInteger();
+  w_.statement_only.SetState(state == 0 || state == 2 ? state : 1);
+}
 
 std::string GovtDetails::Comments() const { return w_.comments.Text(); }
 void GovtDetails::SetComments(const std::string& value) { w_.comments.SetText(value); }
