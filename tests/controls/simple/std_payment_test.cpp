@@ -178,5 +178,25 @@ TEST_F(StdPaymentTest, TypedListenersHearTheSameEvents) {
   EXPECT_THAT(host.EventNames(), ElementsAre("LostFocusPaymentAmount", "LostFocusAmount"));
 }
 
+
+// Keys reach only what could have the focus on screen.
+TEST_F(StdPaymentTest, AFieldDisabledWhileFocusedPassesTheFocusOnAndTakesNoKeys) {
+  control.SetBusinessMode(true);
+  user.Click(screen.Number("txtPaymentAmount"));
+  user.Type("12");
+  control.SetPaymentAmountEnabled(false);
+  EXPECT_NE(screen.FocusedName(), "txtPaymentAmount");
+  user.Type("99");
+  EXPECT_FLOAT_EQ(control.PaymentAmount(), 0.12f);
+}
+
+TEST_F(StdPaymentTest, ADisabledControlTakesNoKeys) {
+  user.Click(screen.Number("txtPaymentAmount"));
+  control.SetEnabled(false);
+  EXPECT_EQ(screen.FocusedName(), "txtHostNext");  // the next field outside the control
+  user.Type("5");
+  EXPECT_FLOAT_EQ(control.PaymentAmount(), 0.0f);
+}
+
 }  // namespace
 }  // namespace zenta

@@ -121,6 +121,13 @@ void Form::SetFocus(platform::Widget* widget) {
   }
 }
 
+void Form::FocusableChanged() {
+  InputNode* focused = impl_->focused;
+  if (!focused || CanFocus(&focused->AsWidget())) return;
+  MoveFocusInTabOrder(false);
+  if (impl_->focused == focused) SetFocus(nullptr);
+}
+
 void Form::QueueKeys(const std::string& keys) {
   for (const platform::KeyDown& key : platform::ParseKeyScript(keys)) impl_->queue.push_back(key);
 }

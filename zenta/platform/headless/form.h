@@ -50,6 +50,9 @@ class Form {
   // Moves the focus (nullptr: nowhere). Ignored for a widget that cannot take it now.
   void SetFocus(platform::Widget* widget);
   bool CanFocus(const platform::Widget* widget) const;
+  // A widget or surface was disabled or hidden: a focused widget that can no longer hold the
+  // focus passes it on in tab order (nowhere when no widget can take it), as on a desktop.
+  void FocusableChanged();
 
   // Keystrokes queued by InjectKeys ("{TAB}", "+{TAB}", "{ENTER}") and run after the handler
   // that queued them returns; User runs them around each action. Keys that keep queueing more

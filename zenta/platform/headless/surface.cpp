@@ -82,6 +82,11 @@ void Surface::SetSize(int width_twips, int height_twips) {
   }
 }
 
+void Surface::SetEnabled(bool enabled) {
+  enabled_ = enabled;
+  if (!enabled) form_.FocusableChanged();
+}
+
 void Surface::PreviewKeyDown(platform::KeyDown& key) {
   if (on_key_down_) on_key_down_(key);
 }

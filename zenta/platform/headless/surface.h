@@ -33,7 +33,7 @@ class Surface : public platform::ControlSurface {
   OleColor BackColor() const override { return back_color_; }
   void SetBackColor(OleColor color) override { back_color_ = color; }
   bool Enabled() const override { return enabled_; }
-  void SetEnabled(bool enabled) override { enabled_ = enabled; }
+  void SetEnabled(bool enabled) override;
   int Width() const override { return width_; }
   int Height() const override { return height_; }
   void SetWidth(int twips) override;

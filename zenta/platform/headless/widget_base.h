@@ -19,9 +19,15 @@ class WidgetBase : public Interface, public InputNode {
   platform::Widget& AsWidget() override { return *this; }
   const std::string& Name() const override { return name_; }
   bool Enabled() const override { return enabled_; }
-  void SetEnabled(bool enabled) override { enabled_ = enabled; }
+  void SetEnabled(bool enabled) override {
+    enabled_ = enabled;
+    if (!enabled) form_.FocusableChanged();
+  }
   bool Visible() const override { return visible_; }
-  void SetVisible(bool visible) override { visible_ = visible; }
+  void SetVisible(bool visible) override {
+    visible_ = visible;
+    if (!visible) form_.FocusableChanged();
+  }
   void SetFocus() override { form_.SetFocus(this); }
   bool HasFocus() const override { return form_.Focused() == this; }
 
