@@ -98,6 +98,16 @@ INSTANTIATE_TEST_SUITE_P(Table, Layout,
                                            LayoutCase{true, "CAD ", false, 6810, 6840},
                                            LayoutCase{true, "cad", false, 6810, 6840}));
 
+// Found by the monkey: a host reading while the payer had typed only "-" got Type mismatch.
+TEST_F(PaymentDetailsTest, AHostReadingMidEditGetsTheLastStoredAmount) {
+  control.SetPaymentAmount(Currency::FromText("12.5"));
+  user.ClickCell(Grid(), 0, PaymentDetails::kPayAmtColumn);
+  user.Type("-");
+  EXPECT_EQ(control.PaymentAmount(), Currency::FromText("12.5"));
+  user.Type("3");
+  EXPECT_EQ(control.PaymentAmount(), Currency::FromText("-3"));
+}
+
 TEST_F(PaymentDetailsTest, OtherCurrencyCodeWaitsForTheNextLayout) {
   control.SetBusinessMode(true);
   control.SetOtherCurrencyCode(Variant("USD"));

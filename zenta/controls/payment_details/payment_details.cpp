@@ -151,21 +151,21 @@ void PaymentDetails::ShowBusinessMode() {
   surface_.SetWidth(BusinessMode() ? kBusinessWidth : kPrivateWidth);
 }
 
-Currency PaymentDetails::PaymentAmount() const { return CellAmount(kPayAmtColumn); }
+Currency PaymentDetails::PaymentAmount() const { return HostAmount(kPayAmtColumn); }
 
 void PaymentDetails::SetPaymentAmount(Currency value) {
   SetCell(kPayAmtColumn, AmountCell(value));
   CalculateNetExpense();
 }
 
-Currency PaymentDetails::GST() const { return CellAmount(kGSTColumn); }
+Currency PaymentDetails::GST() const { return HostAmount(kGSTColumn); }
 
 void PaymentDetails::SetGST(Currency value) {
   SetCell(kGSTColumn, AmountCell(value));
   CalculateNetExpense();
 }
 
-Currency PaymentDetails::NetExpense() const { return CellAmount(kNetExpenseColumn); }
+Currency PaymentDetails::NetExpense() const { return HostAmount(kNetExpenseColumn); }
 
 void PaymentDetails::ShowDistribution() {
   try {
@@ -292,6 +292,18 @@ Currency PaymentDetails::CellAmount(int column) const {
   const Variant value = grid_.Engine().CellValue(column);
   if (ValueText(value).empty()) return Currency();
   return value.ToCurrency();
+}
+
+Currency PaymentDetails::HostAmount(int column) const {
+  // A host may read while the payer is typing in the cell ("-", "12."): what is typed counts
+  // once it reads as an amount, and until then the amount last stored in the cell.
+  try {
+    return CellAmount(column);
+  } catch (const HostError&) {
+    const platform::GridEngine& engine = grid_.Engine();
+    const Variant stored = engine.StoredValue(engine.FirstRow(), column);
+    return ValueText(stored).empty() ? Currency() : stored.ToCurrency();
+  }
 }
 
 void PaymentDetails::SetCell(int column, const Variant& value) { grid_.Engine().SetCellValue(column, value); }

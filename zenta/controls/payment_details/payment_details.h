@@ -90,6 +90,7 @@ class PaymentDetails {
   std::string CellText(int column) const;
   bool CellEmpty(int column) const { return CellText(column).empty(); }
   Currency CellAmount(int column) const;
+  Currency HostAmount(int column) const;
   void SetCell(int column, const Variant& value);
   bool HomeCurrency() const;
 
