@@ -1,5 +1,6 @@
 #include <QHeaderView>
 #include <QImage>
+#include <QScrollBar>
 
 #include "tests/qt/key_input.h"
 #include "tests/qt/toolkit/test_window.h"
@@ -167,6 +168,20 @@ class QtGridViewTest : public QObject {
     QCOMPARE(model->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
     QVERIFY(Count(Viewport(), CellRect(1, 1), QColor(255, 0, 0)) > 0);
     QVERIFY(view_->horizontalHeader()->styleSheet().contains("#000080"));
+  }
+
+  void aCaptionTakesSpareRoomButNeverWidensTheGridPastItsView() {
+    Engine().SetColumnCaption(0, "General Ledger Account No.");
+    QCoreApplication::processEvents();
+    QVERIFY(view_->columnWidth(0) > 1440 * view_->logicalDpiX() / 1440);
+    QCOMPARE(view_->columnWidth(0), view_->horizontalHeader()->sectionSizeHint(0));
+    QCOMPARE(view_->model()->headerData(0, Qt::Horizontal, Qt::ToolTipRole).toString(),
+             QString("General Ledger Account No."));
+
+    Engine().SetColumnCaption(0, QString(200, 'W').toStdString());
+    QCoreApplication::processEvents();
+    QVERIFY(view_->columnWidth(0) < view_->horizontalHeader()->sectionSizeHint(0));
+    QVERIFY(!view_->horizontalScrollBar()->isVisible());
   }
 
   void aLongListKeepsFixedRowsAndNoMeasuredColumns() {
