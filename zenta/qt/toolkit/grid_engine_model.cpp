@@ -39,7 +39,8 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
 
 QVariant GridEngineModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= engine_.ColumnCount()) return {};
-  if (role == Qt::DisplayRole) return ToQString(engine_.Column(section).caption);
+  // The tooltip shows a caption cut short by a narrow column.
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return ToQString(engine_.Column(section).caption);
   return {};
 }
 

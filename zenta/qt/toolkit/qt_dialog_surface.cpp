@@ -3,8 +3,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QWindow>
 #include <QPointer>
+#include <QWindow>
+#include <algorithm>
 
 #include "zenta/qt/toolkit/qt_button.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
@@ -50,9 +51,14 @@ void QtDialogSurface::Relayout() {
   // The rectangle is the outer one: the window manager's frame comes off the client area.
   const int frame_width = frameGeometry().width() - width();
   const int frame_height = frameGeometry().height() - height();
+  // A frame thicker than the one the layout was drawn for never cuts off a child.
+  QRect children;
+  for (const auto& [widget, rect] : laid_out_) {
+    if (widget && !widget->isHidden()) children |= widget->geometry();
+  }
   move(ToPixels(window_rect_.left, Qt::Horizontal), ToPixels(window_rect_.top, Qt::Vertical));
-  resize(std::max(1, qRound(ToPixels(window_rect_.width, Qt::Horizontal) * sx) - frame_width),
-         std::max(1, qRound(ToPixels(window_rect_.height, Qt::Vertical) * sy) - frame_height));
+  resize(std::max({1, qRound(ToPixels(window_rect_.width, Qt::Horizontal) * sx) - frame_width, children.right() + 1}),
+         std::max({1, qRound(ToPixels(window_rect_.height, Qt::Vertical) * sy) - frame_height, children.bottom() + 1}));
 }
 
 void QtDialogSurface::changeEvent(QEvent* event) {

@@ -1,6 +1,7 @@
 #include "zenta/qt/toolkit/qt_grid_view.h"
 
 #include <QHeaderView>
+#include <algorithm>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
@@ -69,6 +70,8 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
   verticalHeader()->hide();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   horizontalHeader()->setStretchLastSection(true);
+  // A bold current-column caption would need more room than the column has.
+  horizontalHeader()->setHighlightSections(false);
   // A long caption is cut at its end, never at its start.
   horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
@@ -90,17 +93,43 @@ void QtGridView::RowChanged(int row) { model_->RowChanged(row - engine_->FirstRo
 
 void QtGridView::ColumnsChanged() {
   model_->ColumnsChanged();
-  for (int column = 0; column < engine_->ColumnCount(); ++column) {
-    const platform::GridColumn& description = engine_->Column(column);
-    setColumnHidden(column, !description.visible);
-    if (description.width > 0) {
-      setColumnWidth(column, description.width * logicalDpiX() / 1440);
-    }
-  }
   ApplyColors();
+  for (int column = 0; column < engine_->ColumnCount(); ++column) {
+    setColumnHidden(column, !engine_->Column(column).visible);
+  }
+  FitColumns();
   updateGeometries();
   footer_->update();
   viewport()->update();
+}
+
+void QtGridView::FitColumns() {
+  // A column whose caption does not fit its drawn width takes what room the grid has to spare,
+  // in column order; a column without a width keeps room for its caption. Only the captions are
+  // measured, never the rows.
+  QHeaderView& header = *horizontalHeader();
+  std::vector<std::pair<int, int>> drawn;
+  int slack = viewport()->width();
+  for (int column = 0; column < engine_->ColumnCount(); ++column) {
+    const platform::GridColumn& description = engine_->Column(column);
+    if (!description.visible) continue;
+    if (description.width <= 0) {
+      slack -= header.sectionSizeHint(column);
+      continue;
+    }
+    drawn.emplace_back(column, description.width * logicalDpiX() / 1440);
+    slack -= drawn.back().second;
+  }
+  for (const auto& [column, width] : drawn) {
+    const int grow = std::clamp(header.sectionSizeHint(column) - width, 0, std::max(slack, 0));
+    slack -= grow;
+    setColumnWidth(column, width + grow);
+  }
+}
+
+void QtGridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FitColumns();
 }
 
 bool QtGridView::HasFooter() const {

@@ -45,10 +45,12 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   bool focusNextPrevChild(bool next) override;
   bool event(QEvent* event) override;
   void updateGeometries() override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   int ToTwips(int pixels) const;
   void ApplyColors();
+  void FitColumns();
   bool HasFooter() const;
 
   GridEngineModel* model_;
