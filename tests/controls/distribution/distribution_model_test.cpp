@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <limits>
 #include <vector>
 
@@ -274,7 +276,10 @@ class DistributionFill : public ::testing::TestWithParam<FillCase> {};
 TEST_P(DistributionFill, LeavesTheLinesAddingUpToTheAmount) {
   const FillCase& c = GetParam();
   Model model;
-  auto table = TableOf(std::vector<Line>(c.lines.begin(), c.lines.begin() + c.initial_last_row + 1));
+  const auto kept = static_cast<std::size_t>(std::max(0, c.initial_last_row + 1));
+  std::vector<Line> initial;
+  for (std::size_t i = 0; i < kept && i < c.lines.size(); ++i) initial.push_back(c.lines[i]);
+  auto table = TableOf(initial);
   model.SetTable(table);
   model.SetAmountToDistribute(Money("100"));
   for (std::size_t i = static_cast<std::size_t>(c.initial_last_row + 1); i < c.lines.size(); ++i) {
