@@ -58,29 +58,6 @@ INSTANTIATE_TEST_SUITE_P(Typed, ImpliedDecimalOnText,
                                            TextCase{"", std::nullopt}, TextCase{"12a", std::nullopt},
                                            TextCase{"99999999999999999999999", std::nullopt}));
 
-struct KeyCase {
-  const char* text;
-  int start;
-  int length;
-  char32_t key;
-  bool fits;
-};
-
-class AmountKeys : public ::testing::TestWithParam<KeyCase> {};
-
-TEST_P(AmountKeys, KeepTheAmountEditFormat) {
-  const KeyCase& c = GetParam();
-  EXPECT_EQ(AmountKeyFits(c.text, c.start, c.length, c.key), c.fits) << c.text << " + " << static_cast<int>(c.key);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, AmountKeys,
-    ::testing::Values(KeyCase{"", 0, 0, U'-', true}, KeyCase{"12", 2, 0, U'-', false}, KeyCase{"12", 0, 2, U'-', true},
-                      KeyCase{"12.3", 4, 0, U'.', false}, KeyCase{"12.3", 2, 2, U'.', true},
-                      KeyCase{"12.34", 5, 0, U'5', false}, KeyCase{"123456789", 9, 0, U'0', false},
-                      KeyCase{"123456789", 9, 0, U'.', true}, KeyCase{"12", 2, 0, U'a', false},
-                      KeyCase{"12.34", 5, 0, 8, true}));
-
 TEST_F(AmountEntry, ProgramSetAmountsAreNeverDivided) {
   SetAmount(edit, Currency::FromInteger(1234));
   EXPECT_EQ(edit.Text(), "1234.00");

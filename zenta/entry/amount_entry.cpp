@@ -37,30 +37,6 @@ bool ApplyImpliedDecimal(platform::NumberEdit& edit) {
   return true;
 }
 
-bool AmountKeyFits(std::string_view text, int selection_start, int selection_length, char32_t key) {
-  if (key == 8) return true;
-  std::u32string result = utf8::Decode(text);
-  const auto size = static_cast<int>(result.size());
-  const int start = std::clamp(selection_start, 0, size);
-  const int length = std::clamp(selection_length, 0, size - start);
-  result.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(length), 1, key);
-  int integer = 0;
-  int fraction = 0;
-  bool point = false;
-  for (std::size_t i = 0; i < result.size(); ++i) {
-    const char32_t c = result[i];
-    if (c == U'-' && i == 0) continue;
-    if (c == U'.' && !point) {
-      point = true;
-    } else if (c >= U'0' && c <= U'9') {
-      ++(point ? fraction : integer);
-    } else {
-      return false;
-    }
-  }
-  return integer <= kIntegerDigits && fraction <= kDecimals;
-}
-
 void SetAmount(platform::NumberEdit& edit, Currency value) {
   edit.SetValue(value);
   if (edit.Text().find('.') == std::string::npos) edit.SetText(FormatNumber(value, formats::kAmount));

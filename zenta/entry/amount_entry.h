@@ -21,11 +21,6 @@ std::optional<Currency> ImpliedDecimalValue(std::string_view text);
 // As ImpliedDecimalValue, formatted "########0.00" ("12345" gives "123.45").
 std::optional<std::string> ImpliedDecimalText(std::string_view text);
 
-// Whether a key typed into an amount text (selection in code points) leaves a text the amount
-// edit format "#########.##" takes: an optional leading "-", at most nine digits before the
-// "." and two after it. Backspace always fits.
-bool AmountKeyFits(std::string_view text, int selection_start, int selection_length, char32_t key);
-
 // Money set by the program is never divided: the value goes in as it is, and a text without
 // "." is rewritten with two decimals (1234 shows "1234.00").
 void SetAmount(platform::NumberEdit& edit, Currency value);

@@ -3,6 +3,7 @@
 #include "zenta/core/number_format.h"
 #include "zenta/core/utf8.h"
 #include "zenta/entry/amount_entry.h"
+#include "zenta/entry/amount_key_filter.h"
 
 namespace zenta {
 
@@ -94,8 +95,10 @@ void GovtItemsTable::FilterKey(platform::CellKeyPressArgs& press) const {
     press.key = 0;
     return;
   }
+  // Enter moves on through key-down; as a character it is never part of an amount.
   if (press.column == kAmountColumn &&
-      !entry::AmountKeyFits(press.text, press.selection_start, press.selection_length, press.key)) {
+      (press.key == 13 ||
+       entry::FilterAmountKey(press.text, press.selection_start, press.selection_length, press.key) == 0)) {
     press.key = 0;
   }
 }
