@@ -4,6 +4,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -149,6 +150,21 @@ class ControlsTest : public QObject {
     QVERIFY(grid->verticalHeader()->isHidden());
     // Both columns fit the grid's width: showing the current amount never scrolls the labels away.
     QVERIFY(grid->columnWidth(0) + grid->columnWidth(1) <= grid->viewport()->width());
+  }
+
+  void fieldsAreNamedByTheirCaptionsForAssistiveTechnology() {
+    auto* invoice = Place<PmtDetails>();
+    QVERIFY(invoice);
+    QCOMPARE(invoice->Surface().FindQWidget("txtInvoiceAmount")->accessibleName(), QString("Invoice Amount"));
+    QCOMPARE(invoice->Surface().FindQWidget("txtGSTAmount")->accessibleName(), QString("GST/HST"));
+    QCOMPARE(invoice->Surface().FindQWidget("dtInvoiceDate")->accessibleName(), QString("Invoice Date"));
+    auto* caption = qobject_cast<QLabel*>(invoice->Surface().FindQWidget("lblInvoiceAmount"));
+    QVERIFY(caption);
+    QCOMPARE(caption->buddy(), invoice->Surface().FindQWidget("txtInvoiceAmount"));
+    auto* remittance = Place<GovtDetails>();
+    auto* grid = remittance->findChild<QTableView*>("grItems");
+    QVERIFY(grid);
+    QCOMPARE(grid->model()->data(grid->model()->index(0, 0), Qt::AccessibleTextRole).toString(), QString("Item: A-01"));
   }
 
   void punctuationTypedInTheGridIsNeverAnArrowKey() {

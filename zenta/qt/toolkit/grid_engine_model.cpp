@@ -17,8 +17,13 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
   const int column = index.column();
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::AccessibleTextRole:
       return ToQString(engine_.Appearance(row, column).text);
+    case Qt::AccessibleTextRole:
+      // A screen reader announces the cell with its column: "Amount: 45.50".
+      return ToQString(engine_.Column(column).caption) + QStringLiteral(": ") +
+             ToQString(engine_.Appearance(row, column).text);
+    case Qt::AccessibleDescriptionRole:
+      return ToQString(engine_.Column(column).caption);
     case Qt::ForegroundRole: {
       auto color = engine_.Appearance(row, column).fore_color;
       return color ? QVariant(ToQColor(*color, QPalette())) : QVariant();

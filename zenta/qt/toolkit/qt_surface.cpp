@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <algorithm>
+#include <cstdlib>
 #include <QKeyEvent>
 
 #include "zenta/qt/toolkit/key_mapping.h"
@@ -108,7 +109,34 @@ W& QtSurface::Register(W* widget, const platform::WidgetSpec& definition, QWidge
     }
   }
   Track(*widget, *widget, definition.name);
+  PairCaptions();
   return *widget;
+}
+
+void QtSurface::PairCaptions() {
+  // A caption names the field drawn right under it, aligned on its left edge: the label becomes
+  // the field's buddy (its mnemonic focuses the field) and the field's accessible name.
+  constexpr int kMaxGap = 150;
+  constexpr int kMaxIndent = 120;
+  for (const auto& [field, field_rect] : laid_out_) {
+    if (!field || qobject_cast<QLabel*>(field) || field->focusPolicy() == Qt::NoFocus) continue;
+    QLabel* caption = nullptr;
+    int best_gap = kMaxGap + 1;
+    for (const auto& [widget, rect] : laid_out_) {
+      auto* label = qobject_cast<QLabel*>(widget.data());
+      if (!label) continue;
+      const int gap = field_rect.top - (rect.top + rect.height);
+      if (gap < -30 || gap > kMaxGap || std::abs(rect.left - field_rect.left) > kMaxIndent || gap >= best_gap) continue;
+      caption = label;
+      best_gap = gap;
+    }
+    if (!caption) continue;
+    caption->setBuddy(field);
+    QString name = caption->text();
+    name.remove(QLatin1Char('&'));
+    if (name.endsWith(QLatin1Char(':'))) name.chop(1);
+    field->setAccessibleName(name.trimmed());
+  }
 }
 
 void QtSurface::SetWidth(int twips) {

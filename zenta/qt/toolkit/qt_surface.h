@@ -77,6 +77,7 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   QRect PixelRect(const platform::TwipsRect& rect) const;
   double FontScale(Qt::Orientation axis) const;
   void Relayout();
+  void PairCaptions();
 
   std::vector<platform::Widget*> children_;
   std::vector<std::pair<QPointer<QWidget>, platform::TwipsRect>> laid_out_;
