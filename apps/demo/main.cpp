@@ -9,6 +9,7 @@
 
 #include "apps/demo/demo_session.h"
 #include "apps/demo/demo_window.h"
+#include "zenta/qt/translator.h"
 
 namespace {
 bool HasDisplay() { return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY"); }
@@ -18,6 +19,14 @@ bool HasDisplay() { return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLA
 void QuietOffscreenNotes(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (message.contains("propagateSizeHints") || message.contains("XDG_RUNTIME_DIR")) return;
   QTextStream(stderr) << qFormatLogMessage(type, context, message) << "\n";
+}
+
+// The value after `flag` ("--locale fr_CA"), or "".
+QString FlagValue(int argc, char** argv, const char* flag) {
+  for (int i = 1; i + 1 < argc; ++i) {
+    if (std::strcmp(argv[i], flag) == 0) return QString::fromLocal8Bit(argv[i + 1]);
+  }
+  return {};
 }
 
 bool HasFlag(int argc, char** argv, const char* flag) {
@@ -33,6 +42,12 @@ int main(int argc, char** argv) {
   if (!HasDisplay() && !std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
   qInstallMessageHandler(QuietOffscreenNotes);
   QApplication app(argc, argv);
+  // "--locale fr_CA": the host's locale and the library's translation for it, as a French
+  // Canadian host sets them up.
+  if (const QString name = FlagValue(argc, argv, "--locale"); !name.isEmpty()) {
+    QLocale::setDefault(QLocale(name));
+    zenta::qt::InstallTranslator(QLocale(name));
+  }
   zenta::demo::DemoWindow window;
   window.resize(1280, 760);
   window.show();

@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -20,10 +21,10 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
       return ToQString(engine_.Appearance(row, column).text);
     case Qt::AccessibleTextRole:
       // A screen reader announces the cell with its column: "Amount: 45.50".
-      return ToQString(engine_.Column(column).caption) + QStringLiteral(": ") +
+      return UiText(engine_.Column(column).caption) + QStringLiteral(": ") +
              ToQString(engine_.Appearance(row, column).text);
     case Qt::AccessibleDescriptionRole:
-      return ToQString(engine_.Column(column).caption);
+      return UiText(engine_.Column(column).caption);
     case Qt::ForegroundRole: {
       auto color = engine_.Appearance(row, column).fore_color;
       return color ? QVariant(ToQColor(*color, QPalette())) : QVariant();
@@ -45,7 +46,7 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
 QVariant GridEngineModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || section < 0 || section >= engine_.ColumnCount()) return {};
   // The tooltip shows a caption cut short by a narrow column.
-  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return ToQString(engine_.Column(section).caption);
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return UiText(engine_.Column(section).caption);
   return {};
 }
 

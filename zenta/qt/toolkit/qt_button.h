@@ -13,8 +13,8 @@ class QtButton : public QPushButton, public QtWidgetBase<platform::Button> {
  public:
   QtButton(QWidget* parent, const platform::WidgetSpec& definition, const std::string& caption);
 
-  std::string Caption() const override { return FromQString(text()); }
-  void SetCaption(const std::string& caption) override { setText(ToQString(caption)); }
+  std::string Caption() const override { return caption_; }
+  void SetCaption(const std::string& caption) override;
   void OnClick(platform::Callback callback) override { on_click_ = std::move(callback); }
 
  protected:
@@ -22,6 +22,7 @@ class QtButton : public QPushButton, public QtWidgetBase<platform::Button> {
 
  private:
   platform::Callback on_click_;
+  std::string caption_;  // the control's own text; the shown one may be a translation
 };
 
 }  // namespace zenta::qt

@@ -3,7 +3,7 @@
 namespace zenta::qt {
 
 QtCheckBox::QtCheckBox(QWidget* parent, const platform::WidgetSpec& definition, const std::string& caption)
-    : QCheckBox(ToQString(caption), parent), QtWidgetBase(*this, definition) {
+    : QCheckBox(UiText(caption), parent), QtWidgetBase(*this, definition) {
   connect(this, &QCheckBox::clicked, this, [this] {
     if (on_click_) on_click_();
   });

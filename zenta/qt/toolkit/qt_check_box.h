@@ -4,6 +4,7 @@
 
 #include "zenta/platform/check_box.h"
 #include "zenta/qt/toolkit/qt_widget_base.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -16,7 +17,7 @@ class QtCheckBox : public QCheckBox, public QtWidgetBase<platform::CheckBox> {
 
   int State() const override;
   void SetState(int state) override;
-  void SetCaption(const std::string& caption) override { setText(ToQString(caption)); }
+  void SetCaption(const std::string& caption) override { setText(UiText(caption)); }
   void OnClick(platform::Callback callback) override { on_click_ = std::move(callback); }
 
  protected:

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 
 #include "zenta/qt/toolkit/qt_widget_base.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -11,7 +12,7 @@ namespace zenta::qt {
 class QtFrame : public QGroupBox, public QtWidgetBase<platform::Widget> {
  public:
   QtFrame(QWidget* parent, const platform::WidgetSpec& definition, const std::string& caption)
-      : QGroupBox(ToQString(caption), parent), QtWidgetBase(*this, definition) {
+      : QGroupBox(UiText(caption), parent), QtWidgetBase(*this, definition) {
     setFocusPolicy(Qt::NoFocus);
   }
 };

@@ -14,6 +14,7 @@
 #include "zenta/qt/toolkit/qt_label.h"
 #include "zenta/qt/toolkit/qt_text_box.h"
 #include "zenta/qt/toolkit/twips_layout.h"
+#include "zenta/qt/toolkit/ui_text.h"
 #include "zenta/qt/toolkit/window_activation.h"
 
 namespace zenta::qt {
@@ -130,7 +131,7 @@ platform::Widget& QtDialogSurface::AddShape(const platform::WidgetSpec& definiti
   return Register(shape, definition);
 }
 
-void QtDialogSurface::SetTitle(const std::string& title) { setWindowTitle(ToQString(title)); }
+void QtDialogSurface::SetTitle(const std::string& title) { setWindowTitle(UiText(title)); }
 
 platform::TwipsRect QtDialogSurface::Rect() const { return window_rect_; }
 

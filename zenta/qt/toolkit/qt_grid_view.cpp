@@ -11,6 +11,7 @@
 #include "zenta/core/utf8.h"
 #include "zenta/qt/toolkit/grid_engine_model.h"
 #include "zenta/qt/toolkit/qt_grid_delegate.h"
+#include "zenta/qt/toolkit/ui_text.h"
 #include "zenta/qt/toolkit/key_mapping.h"
 
 namespace zenta::qt {
@@ -41,7 +42,7 @@ class GridFooter : public QWidget {
       const bool right = description.kind == platform::ColumnKind::Number;
       painter.setPen(fore);
       painter.drawText(cell.adjusted(3, 0, -3, 0), (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter,
-                       ToQString(description.footer_text));
+                       UiText(description.footer_text));
     }
   }
 

@@ -11,6 +11,7 @@
 #include "zenta/platform/key_script.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_widget_base.h"
+#include "zenta/qt/toolkit/ui_text.h"
 #include "zenta/qt/toolkit/window_activation.h"
 
 namespace zenta::qt {
@@ -85,7 +86,7 @@ void QtHost::RaiseEvent(platform::RaisedEvent& event) {
 }
 
 platform::MessageResult QtHost::ShowMessage(const platform::MessageBox& box) {
-  QMessageBox message(IconOf(box.icon), ToQString(box.title), ToQString(box.text), ButtonsOf(box.buttons),
+  QMessageBox message(IconOf(box.icon), UiText(box.title), UiText(box.text), ButtonsOf(box.buttons),
                       owner_ ? owner_->window() : nullptr);
   message.setTextFormat(Qt::PlainText);
   QPointer<QWidget> active = QApplication::activeWindow();

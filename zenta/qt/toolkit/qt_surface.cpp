@@ -58,6 +58,23 @@ void QtSurface::Relayout() {
     scaled.setHeight(std::max(scaled.height(), widget->minimumSizeHint().height()));
     widget->setGeometry(scaled);
   }
+  // A caption widened for its text pushes a caption beside it on the same line further right
+  // (a translated "Invoice Date" and its "YYYY/MM/DD" hint).
+  constexpr int kCaptionGap = 6;
+  for (const auto& [left, left_rect] : laid_out_) {
+    auto* first = qobject_cast<QLabel*>(left.data());
+    if (!first) continue;
+    for (const auto& [right, right_rect] : laid_out_) {
+      auto* second = qobject_cast<QLabel*>(right.data());
+      if (!second || second == first || right_rect.left <= left_rect.left) continue;
+      if (second->geometry().top() >= first->geometry().bottom() || first->geometry().top() >= second->geometry().bottom()) continue;
+      const int start = first->x() + first->sizeHint().width() + kCaptionGap;
+      if (second->x() < start) {
+        second->move(start, second->y());
+        needed = std::max(needed, start + second->sizeHint().width());
+      }
+    }
+  }
   needed += ToPixels(laid_out_.front().second.left, Qt::Horizontal);
   if (needed != caption_width_) {
     caption_width_ = needed;

@@ -6,6 +6,7 @@
 
 #include "zenta/platform/widget.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -25,7 +26,7 @@ class QtWidgetBase : public Interface {
  public:
   explicit QtWidgetBase(QWidget& widget, const platform::WidgetSpec& definition) : widget_(widget), name_(definition.name) {
     widget_.setObjectName(ToQString(definition.name));
-    if (!definition.tooltip.empty()) widget_.setToolTip(ToQString(definition.tooltip));
+    if (!definition.tooltip.empty()) widget_.setToolTip(UiText(definition.tooltip));
   }
 
   const std::string& Name() const override { return name_; }

@@ -1,0 +1,66 @@
+#include <QLabel>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "zenta/qt/payment_details.h"
+#include "zenta/qt/pmt_details.h"
+#include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/qt/translator.h"
+#include "zenta/records/cls_distributions.h"
+
+namespace zenta::qt {
+
+// The French-Canadian translation: installed on request, English exactly otherwise.
+class TranslationTest : public QObject {
+  Q_OBJECT
+
+ private:
+  static QString Caption(const ControlWidget& control, const char* label) {
+    return qobject_cast<QLabel*>(control.Surface().FindQWidget(label))->text();
+  }
+
+ private slots:
+  void englishByDefaultAndFrenchOnRequest() {
+    {
+      PmtDetails english;
+      QCOMPARE(Caption(english, "lblInvoiceAmount"), QString("Invoice Amount"));
+      QCOMPARE(english.Control().BusinessMode(), false);
+    }
+    QVERIFY(!InstallTranslator(QLocale(QLocale::German, QLocale::Germany)));
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    PmtDetails french;
+    QCOMPARE(Caption(french, "lblInvoiceAmount"), QString("Montant de la facture"));
+    QCOMPARE(french.Surface().FindQWidget("txtInvoiceAmount")->accessibleName(), QString("Montant de la facture"));
+  }
+
+  void messagesAndTitlesAreTranslatedToo() {
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    QWidget window;
+    auto* payment = new PaymentDetails;
+    (new QVBoxLayout(&window))->addWidget(payment);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    payment->SetPaymentAmount(Currency::FromText("150"));
+    auto kept = std::make_shared<clsDistributions>();
+    kept->Add(Variant(), "5100", Currency::FromText("100"));
+    payment->Control().SetPayDistribution(kept);
+    QString title;
+    QString accept;
+    testing::DialogScript refuse([&](QtDialogSurface& dialog) {
+      accept = qobject_cast<QAbstractButton*>(dialog.FindQWidget("cmdGLAccept"))->text();
+      testing::AnswerNextMessage(QMessageBox::Ok, [&](QMessageBox& box) { title = box.windowTitle(); });
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+      testing::Click(dialog.FindQWidget("cmdGLCancel"));
+    });
+    payment->ShowDistribution();
+    QVERIFY(refuse.Ran());
+    QCOMPARE(title, QString("Impossible d'accepter la ventilation."));
+    QCOMPARE(accept, QString("&Accepter"));
+  }
+};
+
+}  // namespace zenta::qt
+
+QTEST_MAIN(zenta::qt::TranslationTest)
+#include "translation_test.moc"

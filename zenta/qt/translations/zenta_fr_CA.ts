@@ -1,0 +1,207 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_CA" sourcelanguage="en">
+<context>
+    <name>Zenta</name>
+    <message>
+        <source>A GST/HST amount is required (0.00 is acceptable)</source>
+        <translation>Un montant de TPS/TVH est requis (0,00 est accepté)</translation>
+    </message>
+    <message>
+        <source>A payment amount is required</source>
+        <translation>Un montant de paiement est requis</translation>
+    </message>
+    <message>
+        <source>Accept this distribution</source>
+        <translation>Accepter cette ventilation</translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Accepter</translation>
+    </message>
+    <message>
+        <source>Amount of Payment</source>
+        <translation>Montant du paiement</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Montant</translation>
+    </message>
+    <message>
+        <source>An amount is required.</source>
+        <translation>Un montant est requis.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this distribution?</source>
+        <translation>Voulez-vous vraiment supprimer cette ventilation?</translation>
+    </message>
+    <message>
+        <source>Cancel this distribution</source>
+        <translation>Annuler cette ventilation</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Cannot accept distibution.</source>
+        <translation>Impossible d&#x27;accepter la ventilation.</translation>
+    </message>
+    <message>
+        <source>Comments / Contact</source>
+        <translation>Commentaires / personne-ressource</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Suppr.</translation>
+    </message>
+    <message>
+        <source>Delete this distribution?</source>
+        <translation>Supprimer cette ventilation?</translation>
+    </message>
+    <message>
+        <source>Due Date</source>
+        <translation>Date d&#x27;échéance</translation>
+    </message>
+    <message>
+        <source>Enter applicable comments / contact information</source>
+        <translation>Entrez les commentaires ou les coordonnées utiles</translation>
+    </message>
+    <message>
+        <source>Enter the GST Amount</source>
+        <translation>Entrez le montant de la TPS</translation>
+    </message>
+    <message>
+        <source>Enter the Invoice Number or a description of the invoice</source>
+        <translation>Entrez le numéro de la facture ou une description de celle-ci</translation>
+    </message>
+    <message>
+        <source>Enter the amount of the invoice, including GST</source>
+        <translation>Entrez le montant de la facture, TPS comprise</translation>
+    </message>
+    <message>
+        <source>Enter the amount of the payment</source>
+        <translation>Entrez le montant du paiement</translation>
+    </message>
+    <message>
+        <source>Enter the amount of the payment, including GST</source>
+        <translation>Entrez le montant du paiement, TPS comprise</translation>
+    </message>
+    <message>
+        <source>Enter the date of the invoice</source>
+        <translation>Entrez la date de la facture</translation>
+    </message>
+    <message>
+        <source>Enter the date on which the payment is due</source>
+        <translation>Entrez la date d&#x27;échéance du paiement</translation>
+    </message>
+    <message>
+        <source>Enter the end of the period for this payment</source>
+        <translation>Entrez la fin de la période visée par ce paiement</translation>
+    </message>
+    <message>
+        <source>Enter the other amount of the payment</source>
+        <translation>Entrez l&#x27;autre montant du paiement</translation>
+    </message>
+    <message>
+        <source>Enter the start of the period for this payment</source>
+        <translation>Entrez le début de la période visée par ce paiement</translation>
+    </message>
+    <message>
+        <source>Expense</source>
+        <translation>Dépense</translation>
+    </message>
+    <message>
+        <source>Expense (CAD)</source>
+        <translation>Dépense (CAD)</translation>
+    </message>
+    <message>
+        <source>GST/HST</source>
+        <translation>TPS/TVH</translation>
+    </message>
+    <message>
+        <source>General Ledger Account No., Payment Description/Sub Ledger</source>
+        <translation>N° de compte du grand livre, description du paiement/grand livre auxiliaire</translation>
+    </message>
+    <message>
+        <source>Invoice Amount</source>
+        <translation>Montant de la facture</translation>
+    </message>
+    <message>
+        <source>Invoice Date</source>
+        <translation>Date de la facture</translation>
+    </message>
+    <message>
+        <source>Invoice No / Descript.</source>
+        <translation>N° de facture / descr.</translation>
+    </message>
+    <message>
+        <source>Item</source>
+        <translation>Poste</translation>
+    </message>
+    <message>
+        <source>Net Expense</source>
+        <translation>Dépense nette</translation>
+    </message>
+    <message>
+        <source>Other Amount</source>
+        <translation>Autre montant</translation>
+    </message>
+    <message>
+        <source>Payment Amount</source>
+        <translation>Montant du paiement</translation>
+    </message>
+    <message>
+        <source>Payment For</source>
+        <translation>Objet du paiement</translation>
+    </message>
+    <message>
+        <source>&amp;Payment For:</source>
+        <translation>&amp;Objet du paiement :</translation>
+    </message>
+    <message>
+        <source>Period From</source>
+        <translation>Période du</translation>
+    </message>
+    <message>
+        <source>Period To</source>
+        <translation>Période au</translation>
+    </message>
+    <message>
+        <source>Refundable GST/HST</source>
+        <translation>TPS/TVH remboursable</translation>
+    </message>
+    <message>
+        <source>Statement of Account only</source>
+        <translation>Relevé de compte seulement</translation>
+    </message>
+    <message>
+        <source>The General Ledger Account Number must not be more than 30 characters in length.</source>
+        <translation>Le numéro de compte du grand livre ne doit pas dépasser 30 caractères.</translation>
+    </message>
+    <message>
+        <source>The payment amount does not equal the G/L Distribution amount. Please click the &quot;View Dist&quot; button.</source>
+        <translation>Le montant du paiement ne correspond pas au montant de la ventilation du grand livre. Cliquez sur le bouton « Ventil. ».</translation>
+    </message>
+    <message>
+        <source>The total amounts you enter must be equal to the &#x27;Amount to Distribute&#x27;.</source>
+        <translation>Le total des montants entrés doit être égal au « montant à ventiler ».</translation>
+    </message>
+    <message>
+        <source>Total Expense</source>
+        <translation>Dépense totale</translation>
+    </message>
+    <message>
+        <source>View Dist</source>
+        <translation>Ventil.</translation>
+    </message>
+    <message>
+        <source>YYYY/MM/DD</source>
+        <translation>AAAA/MM/JJ</translation>
+    </message>
+    <message>
+        <source>You must enter the G/L Distribution. Please click the &quot;View Dist&quot; button.</source>
+        <translation>Vous devez entrer la ventilation du grand livre. Cliquez sur le bouton « Ventil. ».</translation>
+    </message>
+</context>
+</TS>
