@@ -1,6 +1,8 @@
 #include "tests/monkey/monkey.h"
 
+#include <cmath>
 #include <exception>
+#include <map>
 #include <sstream>
 
 #include "zenta/core/host_error.h"
@@ -111,6 +113,60 @@ std::string RandomText(Random& random, std::size_t longest) {
   const std::string_view pool = "ABCdef 0123456789-/.";
   for (std::size_t n = random() % (longest + 1); n > 0; --n) text += pool[random() % pool.size()];
   return text;
+}
+
+namespace {
+std::map<std::string, std::function<std::unique_ptr<Driver>()>>& Registry() {
+  static std::map<std::string, std::function<std::unique_ptr<Driver>()>> registry;
+  return registry;
+}
+}  // namespace
+
+bool RegisterDriver(const std::string& name, std::function<std::unique_ptr<Driver>()> make) {
+  Registry()[name] = std::move(make);
+  return true;
+}
+
+std::vector<std::unique_ptr<Driver>> AllDrivers() {
+  std::vector<std::unique_ptr<Driver>> drivers;
+  for (const auto& [name, make] : Registry()) drivers.push_back(make());
+  return drivers;
+}
+
+int DateRefusal() { return HostError::Object(Date::kOutOfRange, "", "").Number(); }
+int RowsRefusal() { return HostError::Object(20, "", "").Number(); }
+
+Date RandomDate(Random& random) {
+  // Mostly ordinary days, sometimes none, sometimes outside the years a field takes.
+  switch (random() % 5) {
+    case 0: return Date();
+    case 1: return Date::FromDayNumber(static_cast<std::int32_t>(random()));
+    default: return Date::FromDayNumber(40000 + static_cast<std::int32_t>(random() % 20000));
+  }
+}
+
+float RandomSingle(Random& random) {
+  switch (random() % 4) {
+    case 0: return 3e38f;
+    case 1: return std::nanf("");
+    default: return static_cast<float>(random() % 10000000) / 100.0f;
+  }
+}
+
+std::string AmountInRange(const char* what, Currency value) {
+  if (value > Currency::FromInteger(1000000000000LL) || value < Currency::FromInteger(-1000000000000LL)) {
+    return std::string(what) + " reads " + value.ToString() + ", more than a field can hold";
+  }
+  return {};
+}
+
+std::string FieldShows(const platform::NumberEdit& field, Currency value) {
+  if (field.HasFocus()) return {};
+  std::string shown = field.DisplayText();
+  std::erase(shown, ',');
+  const std::optional<Currency> read = shown.empty() ? std::optional<Currency>(Currency()) : Currency::Parse(shown);
+  if (read && read->RoundedTo(2) == value.RoundedTo(2)) return {};
+  return field.Name() + " shows \"" + field.DisplayText() + "\" but reads " + value.ToString();
 }
 
 std::string Play(Driver& driver, std::uint64_t seed, int events) {

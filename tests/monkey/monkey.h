@@ -10,6 +10,7 @@
 
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/platform/headless/dialog.h"
+#include "zenta/platform/number_edit.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/host.h"
 #include "zenta/platform/headless/surface.h"
@@ -46,7 +47,10 @@ class Driver {
   virtual std::string Check() = 0;
 };
 
+// Every registered driver, by name. A driver file registers itself:
+//   const bool kRegistered = RegisterDriver("StdPayment", [] { return std::make_unique<StdPaymentDriver>(); });
 std::vector<std::unique_ptr<Driver>> AllDrivers();
+bool RegisterDriver(const std::string& name, std::function<std::unique_ptr<Driver>()> make);
 
 // Plays `events` seeded random events on `driver`'s control; returns "" or the first finding,
 // with the seed and event number to replay it.
@@ -55,8 +59,19 @@ std::string Play(Driver& driver, std::uint64_t seed, int events);
 // Runs a host's put; an error is a finding unless its number is among `documented`.
 std::string Put(const std::function<void()>& put, const std::set<int>& documented = {});
 
-// Shared by the drivers: a random amount or text as a host might put it, some of it refused.
+// Shared by the drivers: values as a host might put them, some of them refused, and the error
+// numbers of the documented refusals.
 Currency RandomAmount(Random& random);
 std::string RandomText(Random& random, std::size_t longest);
+Date RandomDate(Random& random);
+float RandomSingle(Random& random);
+// "" when `value` is an amount a field can hold, else what is wrong.
+std::string AmountInRange(const char* what, Currency value);
+// "" when the amount field shows `value` (to the cent) while the payer is not typing in it.
+std::string FieldShows(const platform::NumberEdit& field, Currency value);
+inline constexpr int kOverflow = 6;
+inline constexpr int kTypeMismatch = 13;
+int DateRefusal();  // 0x80040015
+int RowsRefusal();  // 0x80040014
 
 }  // namespace zenta::monkey

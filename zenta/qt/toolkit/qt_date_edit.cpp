@@ -1,5 +1,7 @@
 #include "zenta/qt/toolkit/qt_date_edit.h"
 
+#include "zenta/qt/toolkit/ui_text.h"
+
 #include <QCalendarWidget>
 #include <QFocusEvent>
 #include <QFrame>
@@ -55,7 +57,7 @@ QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
   setFocusPolicy(editor_->focusPolicy());
   button_->setArrowType(Qt::DownArrow);
   button_->setFocusPolicy(Qt::NoFocus);
-  button_->setToolTip(tr("Calendar (F4)"));
+  button_->setToolTip(UiText("Calendar (F4)"));
   connect(editor_, &QLineEdit::textEdited, this, [this] { SetRefused(false); });
   connect(button_, &QToolButton::clicked, this, [this] { OpenCalendar(); });
 
@@ -123,7 +125,7 @@ void QtDateEdit::SetRefused(bool refused) {
   QPalette p = editor_->palette();
   p.setColor(QPalette::Base, refused ? QColor(255, 220, 220) : palette().color(QPalette::Base));
   editor_->setPalette(p);
-  setToolTip(refused ? tr("Not a date: the previous date was kept.") : tooltip_);
+  setToolTip(refused ? UiText("Not a date: the previous date was kept.") : tooltip_);
 }
 
 bool QtDateEdit::CalendarOpen() const { return popup_->isVisible(); }

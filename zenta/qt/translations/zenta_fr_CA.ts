@@ -203,5 +203,13 @@
         <source>You must enter the G/L Distribution. Please click the &quot;View Dist&quot; button.</source>
         <translation>Vous devez entrer la ventilation du grand livre. Cliquez sur le bouton « Ventil. ».</translation>
     </message>
+    <message>
+        <source>Calendar (F4)</source>
+        <translation>Calendrier (F4)</translation>
+    </message>
+    <message>
+        <source>Not a date: the previous date was kept.</source>
+        <translation>Date invalide : la date précédente a été conservée.</translation>
+    </message>
 </context>
 </TS>
