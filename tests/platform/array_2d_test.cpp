@@ -65,7 +65,9 @@ TEST(Array2D, RowsMoveWhenInsertedOrDeleted) {
 
 TEST(Array2D, OutOfRangeAccessIsAnErrorNotACrash) {
   Array2D items(1, 3, 0, 1);
-  for (auto [row, column] : {std::pair{0, 0}, {4, 0}, {1, 2}, {1, -1}, {INT_MIN, 0}, {INT_MAX, INT_MAX}}) {
+  for (auto cell : {std::pair{0, 0}, {4, 0}, {1, 2}, {1, -1}, {INT_MIN, 0}, {INT_MAX, INT_MAX}}) {
+    const int row = cell.first;
+    const int column = cell.second;
     EXPECT_EQ(ErrorNumberOf([&] { items.Get(row, column); }), kSubscriptOutOfRange) << row << "," << column;
     EXPECT_EQ(ErrorNumberOf([&] { items.Set(row, column, Variant(1)); }), kSubscriptOutOfRange);
   }

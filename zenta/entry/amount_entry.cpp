@@ -8,11 +8,6 @@
 
 namespace zenta::entry {
 
-namespace {
-constexpr int kIntegerDigits = 9;
-constexpr int kDecimals = 2;
-}  // namespace
-
 std::optional<Currency> ImpliedDecimalValue(std::string_view text) {
   if (text.find('.') != std::string_view::npos) return std::nullopt;
   try {

@@ -19,9 +19,6 @@
 
 namespace zenta::qt {
 
-namespace {
-constexpr double kTwipsPerInch = 1440.0;
-}
 
 QtDialogSurface::QtDialogSurface(QWidget* parent) : QDialog(parent) {
   setModal(true);
@@ -30,20 +27,14 @@ QtDialogSurface::QtDialogSurface(QWidget* parent) : QDialog(parent) {
 
 QtDialogSurface::~QtDialogSurface() = default;
 
-int QtDialogSurface::ToPixels(int twips, Qt::Orientation axis) const {
-  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
-  return qRound(twips * dpi / kTwipsPerInch);
-}
+int QtDialogSurface::ToPixels(int twips, Qt::Orientation axis) const { return TwipsToPixels(*this, twips, axis); }
 
-int QtDialogSurface::ToTwips(int pixels, Qt::Orientation axis) const {
-  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
-  return qRound(pixels * kTwipsPerInch / dpi);
-}
+int QtDialogSurface::ToTwips(int pixels, Qt::Orientation axis) const { return PixelsToTwips(*this, pixels, axis); }
 
 void QtDialogSurface::Relayout() {
   const double sx = FontScale(*this, Qt::Horizontal);
   const double sy = FontScale(*this, Qt::Vertical);
-  for (const auto& [widget, rect] : laid_out_) {
+  for (const auto& [widget, rect] : PlacedChildren()) {
     if (!widget) continue;
     widget->setGeometry(qRound(ToPixels(rect.left, Qt::Horizontal) * sx), qRound(ToPixels(rect.top, Qt::Vertical) * sy),
                         qRound(ToPixels(rect.width, Qt::Horizontal) * sx),
@@ -54,7 +45,7 @@ void QtDialogSurface::Relayout() {
   const int frame_height = frameGeometry().height() - height();
   // A frame thicker than the one the layout was drawn for never cuts off a child.
   QRect children;
-  for (const auto& [widget, rect] : laid_out_) {
+  for (const auto& [widget, rect] : PlacedChildren()) {
     if (widget && !widget->isHidden()) children |= widget->geometry();
   }
   move(ToPixels(window_rect_.left, Qt::Horizontal), ToPixels(window_rect_.top, Qt::Vertical));
@@ -67,23 +58,9 @@ void QtDialogSurface::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) Relayout();
 }
 
-void QtDialogSurface::Place(QWidget& child, const platform::TwipsRect& rect) {
-  for (auto& [widget, placed] : laid_out_) {
-    if (widget == &child) placed = rect;
-  }
-  Relayout();
-}
-
-std::optional<platform::TwipsRect> QtDialogSurface::PlacedRect(const QWidget& child) const {
-  for (const auto& [widget, placed] : laid_out_) {
-    if (widget == &child) return placed;
-  }
-  return std::nullopt;
-}
-
 template <class W>
 W& QtDialogSurface::Register(W* widget, const platform::WidgetSpec& definition) {
-  laid_out_.emplace_back(widget, definition.rect);
+  AddPlaced(widget, definition.rect);
   Relayout();
   if (widget->focusPolicy() != Qt::NoFocus) {
     if (!definition.tab_stop) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "zenta/platform/dialog_surface.h"
+#include "zenta/qt/toolkit/twips_layout.h"
 
 namespace zenta::qt {
 
@@ -18,7 +19,7 @@ namespace zenta::qt {
 // destroyed by the payer. The activation notification runs from a queued call once the window
 // is up, never from inside the call that showed it. The layout, drawn in twips for an 8-point
 // font, grows with a larger font, and a label is the buddy of the field after it.
-class QtDialogSurface : public QDialog, public platform::DialogSurface {
+class QtDialogSurface : public QDialog, public platform::DialogSurface, public TwipsContainer {
  public:
   explicit QtDialogSurface(QWidget* parent = nullptr);
   ~QtDialogSurface() override;
@@ -47,9 +48,6 @@ class QtDialogSurface : public QDialog, public platform::DialogSurface {
 
   platform::Widget* Find(const std::string& name) const;
   QWidget* FindQWidget(const std::string& name) const;
-  // A child's twips rectangle: moves it, and the layout scales it from then on.
-  void Place(QWidget& child, const platform::TwipsRect& rect);
-  std::optional<platform::TwipsRect> PlacedRect(const QWidget& child) const;
 
  public slots:
   void reject() override;
@@ -64,11 +62,10 @@ class QtDialogSurface : public QDialog, public platform::DialogSurface {
   W& Register(W* widget, const platform::WidgetSpec& definition);
   int ToPixels(int twips, Qt::Orientation axis) const;
   // The children's and the window's twips drawn for an 8-point font, scaled to the font in use.
-  void Relayout();
+  void Relayout() override;
   int ToTwips(int pixels, Qt::Orientation axis) const;
 
   std::vector<platform::Widget*> children_;
-  std::vector<std::pair<QPointer<QWidget>, platform::TwipsRect>> laid_out_;
   platform::TwipsRect window_rect_;
   std::map<const QWidget*, platform::Widget*> by_qwidget_;
   std::map<const platform::Widget*, QWidget*> qwidget_of_;

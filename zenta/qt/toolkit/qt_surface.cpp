@@ -12,7 +12,6 @@
 #include "zenta/qt/toolkit/qt_check_box.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_date_edit.h"
-#include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_label.h"
 #include "zenta/qt/toolkit/qt_number_edit.h"
 #include "zenta/qt/toolkit/qt_text_box.h"
@@ -20,9 +19,6 @@
 
 namespace zenta::qt {
 
-namespace {
-constexpr double kTwipsPerInch = 1440.0;
-}  // namespace
 
 QtSurface::QtSurface(QWidget* parent) : QWidget(parent) {
   SetBackColor(colors::kButtonFace);
@@ -37,16 +33,16 @@ QtSurface::~QtSurface() {
 double QtSurface::FontScale(Qt::Orientation axis) const { return qt::FontScale(*this, axis); }
 
 void QtSurface::Relayout() {
-  if (laid_out_.empty()) return;
+  if (PlacedChildren().empty()) return;
   const double sy = FontScale(Qt::Vertical);
   int design_right = 0;
-  for (const auto& [widget, rect] : laid_out_) design_right = std::max(design_right, rect.left + rect.width);
+  for (const auto& [widget, rect] : PlacedChildren()) design_right = std::max(design_right, rect.left + rect.width);
   // Wider fonts widen everything; a wider control stretches the fields across its width.
   const double fitted = FontScale(Qt::Horizontal);
-  const int design_px = std::max(1, ToPixels(design_right + laid_out_.front().second.left, Qt::Horizontal));
+  const int design_px = std::max(1, ToPixels(design_right + PlacedChildren().front().second.left, Qt::Horizontal));
   const double sx = std::max(fitted, static_cast<double>(width()) / design_px);
   int needed = 0;
-  for (const auto& [widget, rect] : laid_out_) {
+  for (const auto& [widget, rect] : PlacedChildren()) {
     if (!widget) continue;
     const QRect px = PixelRect(rect);
     QRect scaled(qRound(px.x() * sx), qRound(px.y() * sy), qRound(px.width() * sx), qRound(px.height() * sy));
@@ -61,10 +57,10 @@ void QtSurface::Relayout() {
   // A caption widened for its text pushes a caption beside it on the same line further right
   // (a translated "Invoice Date" and its "YYYY/MM/DD" hint).
   constexpr int kCaptionGap = 6;
-  for (const auto& [left, left_rect] : laid_out_) {
+  for (const auto& [left, left_rect] : PlacedChildren()) {
     auto* first = qobject_cast<QLabel*>(left.data());
     if (!first) continue;
-    for (const auto& [right, right_rect] : laid_out_) {
+    for (const auto& [right, right_rect] : PlacedChildren()) {
       auto* second = qobject_cast<QLabel*>(right.data());
       if (!second || second == first || right_rect.left <= left_rect.left) continue;
       if (second->geometry().top() >= first->geometry().bottom() || first->geometry().top() >= second->geometry().bottom()) continue;
@@ -75,7 +71,7 @@ void QtSurface::Relayout() {
       }
     }
   }
-  needed += ToPixels(laid_out_.front().second.left, Qt::Horizontal);
+  needed += ToPixels(PlacedChildren().front().second.left, Qt::Horizontal);
   if (needed != caption_width_) {
     caption_width_ = needed;
     updateGeometry();
@@ -88,15 +84,9 @@ QSize QtSurface::FittedSize(int width_twips, int height_twips) const {
                qRound(ToPixels(height_twips, Qt::Vertical) * FontScale(Qt::Vertical)));
 }
 
-int QtSurface::ToPixels(int twips, Qt::Orientation axis) const {
-  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
-  return qRound(twips * dpi / kTwipsPerInch);
-}
+int QtSurface::ToPixels(int twips, Qt::Orientation axis) const { return TwipsToPixels(*this, twips, axis); }
 
-int QtSurface::ToTwips(int pixels, Qt::Orientation axis) const {
-  const int dpi = axis == Qt::Horizontal ? logicalDpiX() : logicalDpiY();
-  return qRound(pixels * kTwipsPerInch / dpi);
-}
+int QtSurface::ToTwips(int pixels, Qt::Orientation axis) const { return PixelsToTwips(*this, pixels, axis); }
 
 QRect QtSurface::PixelRect(const platform::TwipsRect& rect) const {
   return QRect(ToPixels(rect.left, Qt::Horizontal), ToPixels(rect.top, Qt::Vertical),
@@ -112,7 +102,7 @@ void QtSurface::Track(platform::Widget& widget, QWidget& qwidget, const std::str
 template <class W>
 W& QtSurface::Register(W* widget, const platform::WidgetSpec& definition, QWidget& focus_target) {
   widget->setGeometry(PixelRect(definition.rect));
-  laid_out_.emplace_back(widget, definition.rect);
+  AddPlaced(widget, definition.rect);
   Relayout();
   focus_target.installEventFilter(this);
   if (focus_target.focusPolicy() != Qt::NoFocus) {
@@ -135,11 +125,11 @@ void QtSurface::PairCaptions() {
   // the field's buddy (its mnemonic focuses the field) and the field's accessible name.
   constexpr int kMaxGap = 150;
   constexpr int kMaxIndent = 120;
-  for (const auto& [field, field_rect] : laid_out_) {
+  for (const auto& [field, field_rect] : PlacedChildren()) {
     if (!field || qobject_cast<QLabel*>(field) || field->focusPolicy() == Qt::NoFocus) continue;
     QLabel* caption = nullptr;
     int best_gap = kMaxGap + 1;
-    for (const auto& [widget, rect] : laid_out_) {
+    for (const auto& [widget, rect] : PlacedChildren()) {
       auto* label = qobject_cast<QLabel*>(widget.data());
       if (!label) continue;
       const int gap = field_rect.top - (rect.top + rect.height);
@@ -170,36 +160,16 @@ void QtSurface::SetHeight(int twips) {
   if (parentWidget()) parentWidget()->updateGeometry();
 }
 
-void QtSurface::Place(QWidget& child, const platform::TwipsRect& rect) {
-  for (auto& [widget, placed] : laid_out_) {
-    if (widget == &child) placed = rect;
-  }
-  Relayout();
-}
-
-std::optional<platform::TwipsRect> QtSurface::PlacedRect(const QWidget& child) const {
-  for (const auto& [widget, placed] : laid_out_) {
-    if (widget == &child) return placed;
-  }
-  return std::nullopt;
-}
-
 bool PlaceOnSurface(QWidget& widget, const platform::TwipsRect& rect) {
-  if (auto* surface = dynamic_cast<QtSurface*>(widget.parentWidget()); surface && surface->PlacedRect(widget)) {
-    surface->Place(widget, rect);
-    return true;
-  }
-  if (auto* dialog = dynamic_cast<QtDialogSurface*>(widget.parentWidget()); dialog && dialog->PlacedRect(widget)) {
-    dialog->Place(widget, rect);
-    return true;
-  }
-  return false;
+  auto* container = dynamic_cast<TwipsContainer*>(widget.parentWidget());
+  if (!container || !container->PlacedRect(widget)) return false;
+  container->Place(widget, rect);
+  return true;
 }
 
 std::optional<platform::TwipsRect> RectOnSurface(const QWidget& widget) {
-  if (auto* surface = dynamic_cast<const QtSurface*>(widget.parentWidget())) return surface->PlacedRect(widget);
-  if (auto* dialog = dynamic_cast<const QtDialogSurface*>(widget.parentWidget())) return dialog->PlacedRect(widget);
-  return std::nullopt;
+  auto* container = dynamic_cast<const TwipsContainer*>(widget.parentWidget());
+  return container ? container->PlacedRect(widget) : std::nullopt;
 }
 
 platform::NumberEdit& QtSurface::AddNumberEdit(const platform::WidgetSpec& definition) {

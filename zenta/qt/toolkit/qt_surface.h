@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "zenta/platform/control_surface.h"
+#include "zenta/qt/toolkit/twips_layout.h"
 
 namespace zenta::qt {
 
@@ -17,7 +18,7 @@ namespace zenta::qt {
 // follows the palette). It takes the host's font: the rectangles were drawn for an 8-point dialog
 // font, so a larger font scales the layout by its letter width and line height, a wider surface
 // stretches the fields across it, and a caption always gets the width its text needs.
-class QtSurface : public QWidget, public platform::ControlSurface {
+class QtSurface : public QWidget, public platform::ControlSurface, public TwipsContainer {
  public:
   explicit QtSurface(QWidget* parent = nullptr);
   ~QtSurface() override;
@@ -60,9 +61,6 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   // The size the control asked for (SetWidth, SetHeight), in twips; 0 when it never asked.
   int RequestedWidth() const { return requested_width_; }
   int RequestedHeight() const { return requested_height_; }
-  // A child's twips rectangle: moves it, and the layout scales it from then on.
-  void Place(QWidget& child, const platform::TwipsRect& rect);
-  std::optional<platform::TwipsRect> PlacedRect(const QWidget& child) const;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -76,11 +74,10 @@ class QtSurface : public QWidget, public platform::ControlSurface {
   void Track(platform::Widget& widget, QWidget& qwidget, const std::string& name);
   QRect PixelRect(const platform::TwipsRect& rect) const;
   double FontScale(Qt::Orientation axis) const;
-  void Relayout();
+  void Relayout() override;
   void PairCaptions();
 
   std::vector<platform::Widget*> children_;
-  std::vector<std::pair<QPointer<QWidget>, platform::TwipsRect>> laid_out_;
   std::map<const QWidget*, platform::Widget*> by_qwidget_;
   std::map<std::string, QWidget*> qwidget_by_name_;
   QPointer<QWidget> last_tab_stop_;

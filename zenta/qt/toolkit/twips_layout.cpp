@@ -24,4 +24,28 @@ double FontScale(const QWidget& widget, Qt::Orientation axis) {
   return std::max(1.0, actual / design);
 }
 
+int TwipsToPixels(const QWidget& widget, int twips, Qt::Orientation axis) {
+  const int dpi = axis == Qt::Horizontal ? widget.logicalDpiX() : widget.logicalDpiY();
+  return qRound(twips * dpi / 1440.0);
+}
+
+int PixelsToTwips(const QWidget& widget, int pixels, Qt::Orientation axis) {
+  const int dpi = axis == Qt::Horizontal ? widget.logicalDpiX() : widget.logicalDpiY();
+  return dpi > 0 ? qRound(pixels * 1440.0 / dpi) : pixels * 15;
+}
+
+void TwipsContainer::Place(QWidget& child, const platform::TwipsRect& rect) {
+  for (auto& [widget, placed] : placed_) {
+    if (widget == &child) placed = rect;
+  }
+  Relayout();
+}
+
+std::optional<platform::TwipsRect> TwipsContainer::PlacedRect(const QWidget& child) const {
+  for (const auto& [widget, placed] : placed_) {
+    if (widget == &child) return placed;
+  }
+  return std::nullopt;
+}
+
 }  // namespace zenta::qt
