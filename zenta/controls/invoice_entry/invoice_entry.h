@@ -139,6 +139,9 @@ class InvoiceEntry {
   platform::Grid& grInvoices() { return grid_; }
   const platform::Grid& grInvoices() const { return grid_; }
   const InvoiceStore& Store() const { return store_; }
+  // Bulk loading for tools (benchmarks, fixtures): bypasses the grid, which a later Clear or
+  // rebinding catches up with.
+  InvoiceStore& Store() { return store_; }
 
  private:
   void BuildColumns();
