@@ -6,6 +6,7 @@
 
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/invoice_entry/invoice_entry.h"
+#include "zenta/platform/headless/dialog.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/host.h"
 #include "zenta/platform/headless/surface.h"

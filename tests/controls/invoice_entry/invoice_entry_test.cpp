@@ -114,6 +114,38 @@ TEST_F(InvoiceEntryTest, TheHostVetoesADuplicateNumberAndAnAmountOverItsLimit) {
   EXPECT_FALSE(control.IsDataValid(reason, incomplete));
 }
 
+TEST_F(InvoiceEntryTest, DatesAheadOrLongAgoAreQuestionedAndDeletionIsConfirmed) {
+  host.ExpectMessage(platform::MessageResult::No);
+  user.ClickCell(Grid(), 0, InvoiceStore::kDateColumn);
+  user.Type("2026/05/01\t");
+  ASSERT_EQ(host.MessagesShown().size(), 1u);
+  EXPECT_EQ(host.MessagesShown()[0],
+            (platform::MessageBox{"You have entered future dated invoice, would you like to change it?",
+                                  "Invoice Date Validation", platform::MessageButtons::YesNo,
+                                  platform::MessageIcon::Information}));
+  EXPECT_EQ(Engine().CurrentColumn(), InvoiceStore::kNumberColumn);
+  host.ExpectMessage(platform::MessageResult::Yes);
+  user.ClickCell(Grid(), 0, InvoiceStore::kDateColumn);
+  user.Type("2020/01/01\t");
+  ASSERT_EQ(host.MessagesShown().size(), 2u);
+  EXPECT_EQ(host.MessagesShown()[1].text,
+            "The Invoice Date you entered is more than a year earlier than the current date, would you like to "
+            "change it?");
+  EXPECT_EQ(Engine().CurrentColumn(), InvoiceStore::kDateColumn);
+
+  control.Clear();
+  control.AddInvoice(Day(2026, 2, 1), "A", Money("1"));
+  host.ExpectMessage(platform::MessageResult::No);
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  Engine().DeleteCurrentRow();
+  EXPECT_EQ(host.MessagesShown().back().title, "Delete this invoice?");
+  EXPECT_EQ(control.RowCount(), 1);
+  // The control's own deletion asks nothing.
+  control.DeleteCurrentRow();
+  EXPECT_EQ(control.RowCount(), 0);
+  EXPECT_EQ(host.PendingAnswers(), 0u);
+}
+
 TEST_F(InvoiceEntryTest, IsDataValidNamesTheFirstProblem) {
   std::string reason = "stale";
   bool incomplete = true;

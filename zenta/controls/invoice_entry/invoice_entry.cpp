@@ -25,6 +25,10 @@ constexpr const char* kNumberRequired = "An invoice number / description is requ
 constexpr const char* kAmountRequired = "An invoice amount is required";
 constexpr const char* kTooFarAhead =
     "The Invoice Date cannot be set to more than two years into the future. Please adjust the date.";
+constexpr const char* kDateTitle = "Invoice Date Validation";
+constexpr const char* kFutureDate = "You have entered future dated invoice, would you like to change it?";
+constexpr const char* kLongAgo =
+    "The Invoice Date you entered is more than a year earlier than the current date, would you like to change it?";
 constexpr const char* kGSTRequired = "A GST/HST amount is required (0.00 is acceptable)";
 constexpr const char* kNumberTooLong = "The Invoice Number/Description cannot be more than 255 characters.";
 constexpr const char* kNoDistribution =
@@ -105,7 +109,18 @@ void InvoiceEntry::WireGrid() {
   platform::GridHandlers& on = grid_.Engine().Handlers();
   on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
   on.after_update = [this] { grid_.Engine().PostMessage(kAfterRowEdit); };
+  on.before_delete = [this](platform::CancelArgs& args) {
+    if (deleting_) return;
+    args.cancel = host_.ShowMessage({"Are you sure you want to delete this invoice?", "Delete this invoice?",
+                                     platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
+                  platform::MessageResult::No;
+  };
   on.after_delete = [this] { events_.Recalculate(); };
+  distribution_grid_.Engine().Handlers().before_delete = [this](platform::CancelArgs& args) {
+    args.cancel = host_.ShowMessage({"Are you sure you want to delete this distribution?", "Delete this distribution?",
+                                     platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
+                  platform::MessageResult::No;
+  };
   on.button_click = [this](int column) {
     if (column == Col::kViewDistColumn) grid_.Engine().PostMessage(kOpenDistribution);
   };
@@ -129,8 +144,26 @@ void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
 void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
   if (deleting_) return;
   platform::GridEngine& engine = grid_.Engine();
-  if (args.column == Col::kNumberColumn) {
+  if (args.column == Col::kDateColumn) {
+    const auto date = Date::Parse(Trimmed(engine.CellText(Col::kDateColumn)));
+    if (!date) return;
+    const Date today = host_.Today();
+    const char* question = nullptr;
+    if (*date > today && *date <= today.AddYears(2)) {
+      question = kFutureDate;
+    } else if (date->DaysUntil(today) > 365) {
+      question = kLongAgo;
+    }
+    if (question && Ask(question, kDateTitle)) args.cancel = true;
+  } else if (args.column == Col::kNumberColumn) {
     std::string number = engine.CellText(Col::kNumberColumn);
+    if (number.size() > kMaxNumberLength) {
+      host_.ShowMessage({kNumberTooLong, "Invoice Number/Description Validation", platform::MessageButtons::Ok,
+                         platform::MessageIcon::Information});
+      number_refused_ = true;
+      args.cancel = true;
+      return;
+    }
     number_refused_ = events_.CheckDuplicateInvoices(number);
     args.cancel = number_refused_;
   } else if (args.column == Col::kAmountColumn) {
@@ -139,6 +172,11 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
     amount_refused_ = events_.ValidateInvoiceAmountLimit(amount);
     args.cancel = amount_refused_;
   }
+}
+
+bool InvoiceEntry::Ask(const char* question, const char* title) {
+  return host_.ShowMessage({question, title, platform::MessageButtons::YesNo, platform::MessageIcon::Information}) ==
+         platform::MessageResult::Yes;
 }
 
 void InvoiceEntry::OnPosted(int message) {

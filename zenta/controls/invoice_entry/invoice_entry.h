@@ -155,6 +155,8 @@ class InvoiceEntry {
   Currency Distributable(const InvoiceStore::Row& row) const;
   Currency LinesTotal(const InvoiceStore::Row& row) const;
   void Convert(int row, int changed_column);
+  // Yes to a Yes/No question.
+  bool Ask(const char* question, const char* title);
   void OnPosted(int message);
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void OnKeyDown(platform::KeyDown& key);
