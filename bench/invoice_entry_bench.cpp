@@ -30,7 +30,7 @@ struct Screen {
     const Date day = *Date::FromYmd(2026, 2, 1);
     for (int i = 0; i < n; ++i) {
       control.AddInvoice(day, "INV-" + std::to_string(i) + " a description long enough to wrap twice",
-                         Currency::FromUnits(1'000'000 + i), Variant(Currency::FromUnits(130'000)));
+                         Currency::FromUnits(1'000'000), Variant(Currency::FromUnits(130'000)));
     }
     InvoiceStore& store = control.Store();
     for (int row = 0; row < n; ++row) {

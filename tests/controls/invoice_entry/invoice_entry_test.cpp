@@ -196,6 +196,27 @@ TEST_F(InvoiceEntryTest, ForeignInvoicesConvertAtTheAccountingRateHalfToEven) {
   EXPECT_EQ(Engine().Column(InvoiceStore::kGSTColumn).caption, "Refundable GST/HST");
 }
 
+TEST_F(InvoiceEntryTest, AForeignAmountOutOfRangeIsReportedAfterTheCallReturns) {
+  control.SetIPCurrency("USD");
+  control.SetCurrencyRate(2.0f);
+  host.ExpectMessage(platform::MessageResult::Ok);
+  control.AddInvoice(Day(2026, 2, 1), "BIG", Money("10000000"));
+  EXPECT_TRUE(host.MessagesShown().empty());
+  form.Settle();
+  ASSERT_EQ(host.MessagesShown().size(), 1u);
+  EXPECT_EQ(host.MessagesShown()[0],
+            (platform::MessageBox{"That amount would cause the foreign currency amount to be invalid (it must be "
+                                  "between -9,999,999.99 and 9,999,999.99)",
+                                  "", platform::MessageButtons::Ok, platform::MessageIcon::Information}));
+  // The edge of the range converts.
+  control.AddInvoice(Day(2026, 2, 1), "EDGE", Money("-9999999.99"));
+  EXPECT_EQ(control.InvoiceValues(2)->CompanyExpense, Money("-19999999.98"));
+  // Half to even at the cent: 0.125 CAD per unit.
+  control.SetCurrencyRate(0.125f);
+  control.AddInvoice(Day(2026, 2, 1), "HALF", Money("1"));
+  EXPECT_EQ(control.InvoiceValues(3)->CompanyExpense, Money("0.12"));
+}
+
 TEST_F(InvoiceEntryTest, PropertiesRoundTripThroughTheHostsStore) {
   headless::MemoryPropertyBag bag;
   control.SetBackColorGridHeader(Rgb(1, 2, 3));

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "zenta/controls/distribution/distribution_handover.h"
+#include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
 #include "zenta/core/host_error.h"
 #include "zenta/platform/grid_engine.h"
@@ -29,10 +30,9 @@ constexpr const char* kDateTitle = "Invoice Date Validation";
 constexpr const char* kFutureDate = "You have entered future dated invoice, would you like to change it?";
 constexpr const char* kLongAgo =
     "The Invoice Date you entered is more than a year earlier than the current date, would you like to change it?";
-constexpr const char* kGSTRequired = "A GST/HST amount is required (0.00 is acceptable)";
+using texts::kGSTRequired;
 constexpr const char* kNumberTooLong = "The Invoice Number/Description cannot be more than 255 characters.";
-constexpr const char* kNoDistribution =
-    "You must enter the G/L Distribution. Please click the \"View Dist\" button.";
+using texts::kNoDistribution;
 constexpr const char* kNotEqual =
     "The invoice amount does not equal the G/L Distribution amount. Please click the \"View Dist\" button.";
 
@@ -108,6 +108,7 @@ void InvoiceEntry::BuildColumns() {
 void InvoiceEntry::WireGrid() {
   platform::GridHandlers& on = grid_.Engine().Handlers();
   on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
+  on.after_col_update = [this](int column) { last_edited_column_ = column; };
   on.after_update = [this] { grid_.Engine().PostMessage(kAfterRowEdit); };
   on.before_delete = [this](platform::CancelArgs& args) {
     if (deleting_) return;
@@ -206,7 +207,7 @@ void InvoiceEntry::AfterRowEdit() {
   const auto current = grid_.Engine().CurrentRow();
   if (current && *current < store_.Count()) {
     if (ForeignMode()) {
-      Convert(*current, Col::kAmountColumn);
+      Convert(*current, last_edited_column_);
     } else if (BusinessMode()) {
       InvoiceStore::Row row = store_.At(*current);
       if (row.amount || row.gst) row.expense = row.amount.value_or(Currency()) - row.gst.value_or(Currency());
@@ -230,6 +231,10 @@ void InvoiceEntry::Convert(int index, int changed_column) {
     }
     row.amount = foreign;
   } else if (row.amount) {
+    if (!InForeignRange(*row.amount)) {
+      grid_.Engine().PostMessage(kForeignRangeMessage);
+      return;
+    }
     row.expense = row.amount->MultipliedBy(rate).RoundedTo(2);
   }
   store_.Put(index, std::move(row));
@@ -546,10 +551,9 @@ void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
 
 void InvoiceEntry::SetIPCurrency(const std::string& code) {
   ip_currency_ = code;
-  context_.SetCurrencyCode(code);
 }
 
-void InvoiceEntry::SetOtherCurrencyCode(const Variant& code) { other_currency_code_ = code; }
+void InvoiceEntry::SetOtherCurrencyCode(const Variant& code) { context_.SetCurrencyCode(Text(code)); }
 
 bool InvoiceEntry::ForeignMode() const { return ip_currency_ != LibraryContext::kHomeCurrency; }
 
@@ -588,7 +592,7 @@ void InvoiceEntry::SetupIPGrid() {
   engine.SetColumnLocked(Col::kGSTColumn, foreign);
   engine.SetColumnLocked(Col::kExpenseColumn, !foreign);
   if (foreign) {
-    engine.SetColumnCaption(Col::kAmountColumn, "Invoice Amount (" + Text(other_currency_code_) + ")");
+    engine.SetColumnCaption(Col::kAmountColumn, "Invoice Amount (" + context_.CurrencyCode() + ")");
     engine.SetColumnCaption(Col::kGSTColumn, "Accounting Rate");
     engine.SetColumnCaption(Col::kExpenseColumn, "Invoice Amount (CAD)");
     platform::TwipsRect rect = grid_.Rect();

@@ -115,6 +115,7 @@ class InvoiceEntry {
   void DeleteByEmailFilename(const std::string& strFilename);
   void SetCurrencyRate(float rate) { currency_rate_ = rate; }
   void SetIPCurrency(const std::string& code);
+  // The library's shared currency code, shown in the foreign amount's caption.
   void SetOtherCurrencyCode(const Variant& code);
   // Keeps the detail lines of sInvoiceNo for PassInvoiceValues.
   void ParseInvoiceNo(const std::string& sInvoiceNo);
@@ -174,7 +175,7 @@ class InvoiceEntry {
   InvoiceStore store_;
   float currency_rate_ = 0;
   std::string ip_currency_{LibraryContext::kHomeCurrency};
-  Variant other_currency_code_;
+  int last_edited_column_ = InvoiceStore::kAmountColumn;
   int pending_row_ = 0;
   bool deleting_ = false;
   bool number_refused_ = false;

@@ -1,6 +1,7 @@
 #include "zenta/controls/payment_details/payment_details.h"
 
 #include "zenta/controls/distribution/distribution_handover.h"
+#include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/payment_details/payment_key_filter.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
@@ -18,11 +19,10 @@ namespace {
 using platform::TwipsRect;
 
 constexpr const char* kPaymentRequired = "A payment amount is required";
-constexpr const char* kGSTRequired = "A GST/HST amount is required (0.00 is acceptable)";
+using texts::kGSTRequired;
 constexpr const char* kNotEqual =
     "The payment amount does not equal the G/L Distribution amount. Please click the \"View Dist\" button.";
-constexpr const char* kNoDistribution =
-    "You must enter the G/L Distribution. Please click the \"View Dist\" button.";
+using texts::kNoDistribution;
 
 constexpr TwipsRect kGridRect{0, 0, 2640, 585};
 constexpr int kPrivateGridWidth = 2640;
