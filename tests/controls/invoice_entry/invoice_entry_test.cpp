@@ -95,6 +95,14 @@ TEST_F(InvoiceEntryTest, ThePayerTypesAnInvoiceAndTheHostHearsRecalculateAfterTh
   EXPECT_EQ(events.back(), "Recalculate");
 }
 
+TEST_F(InvoiceEntryTest, TypedCentsAndKeyFilters) {
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  user.Type("A\"B~C\t12x50");
+  user.LeaveControl();
+  EXPECT_EQ(control.InvoiceValues(1)->InvoiceNo, "ABC");
+  EXPECT_EQ(control.InvoiceValues(1)->InvoiceAmount, Money("12.5"));
+}
+
 TEST_F(InvoiceEntryTest, TheHostVetoesADuplicateNumberAndAnAmountOverItsLimit) {
   control.AddInvoice(Day(2026, 2, 1), "A", Money("900"));
   Currency seen;
@@ -106,7 +114,9 @@ TEST_F(InvoiceEntryTest, TheHostVetoesADuplicateNumberAndAnAmountOverItsLimit) {
     }
   });
   user.ClickCell(Grid(), 1, InvoiceStore::kAmountColumn);
-  user.Type("200\t");
+  // Typed cents; the refused amount keeps the distribution window shut.
+  user.Type("20000\t");
+  form.Settle();
   // The host receives the list's total plus the typed amount.
   EXPECT_EQ(seen, Money("1100"));
   std::string reason;

@@ -7,6 +7,9 @@
 #include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
 #include "zenta/core/host_error.h"
+#include "zenta/entry/amount_entry.h"
+#include "zenta/entry/amount_key_filter.h"
+#include "zenta/entry/text_filters.h"
 #include "zenta/platform/grid_engine.h"
 #include "zenta/platform/keys.h"
 #include "zenta/platform/message_box.h"
@@ -19,6 +22,8 @@ using Col = InvoiceStore::Column;
 constexpr platform::TwipsRect kInvoiceGridRect{0, 0, 6120, 2415};
 constexpr platform::TwipsRect kDistributionGridRect{6180, 0, 2880, 2415};
 constexpr int kMaxNumberLength = 255;
+// "#######0.00": eight digits before the point, two after.
+constexpr entry::AmountDigitLimits kAmountDigits{8, 2};
 constexpr std::int64_t kForeignLimit = 9'999'999'99LL * (Currency::kScale / 100);
 
 constexpr const char* kDateRequired = "An invoice date is required";
@@ -126,6 +131,16 @@ void InvoiceEntry::WireGrid() {
     if (column == Col::kViewDistColumn) grid_.Engine().PostMessage(kOpenDistribution);
   };
   on.key_down = [this](platform::KeyDown& key) { OnKeyDown(key); };
+  on.key_press = [](platform::CellKeyPressArgs& args) {
+    if (args.key == 8 || args.key == 13) return;
+    if (args.column >= Col::kAmountColumn && args.column <= Col::kExpenseColumn) {
+      args.key = entry::FilterAmountKey(args.text, args.selection_start, args.selection_length, args.key, kAmountDigits);
+    } else if (args.column == Col::kNumberColumn && args.key < 0x80) {
+      if (entry::StripInvalidChars(std::string(1, static_cast<char>(args.key))).empty()) args.key = 0;
+    } else if (args.column == Col::kNumberColumn) {
+      args.key = 0;
+    }
+  };
   on.posted = [this](int message) { OnPosted(message); };
   on.format_text = [this](platform::FormatTextArgs& args) {
     if (args.column < Col::kAmountColumn || args.column > Col::kExpenseColumn || args.value.IsEmpty()) return;
@@ -167,7 +182,12 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
     }
     number_refused_ = events_.CheckDuplicateInvoices(number);
     args.cancel = number_refused_;
-  } else if (args.column == Col::kAmountColumn) {
+  } else if (args.column >= Col::kAmountColumn && args.column <= Col::kExpenseColumn) {
+    const std::string typed = engine.CellText(args.column);
+    const std::string text = entry::TypedGridAmount(typed);
+    if (text != typed) engine.SetCellValue(args.column, Variant(text));
+  }
+  if (args.column == Col::kAmountColumn) {
     const Variant typed = engine.CellValue(Col::kAmountColumn);
     Currency amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
     amount_refused_ = events_.ValidateInvoiceAmountLimit(amount);

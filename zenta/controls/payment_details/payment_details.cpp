@@ -313,13 +313,7 @@ bool PaymentDetails::CheckPaymentValues(std::string& reason) {
 // Reads typed cents, then lets the host veto the amount. True when the update is refused.
 bool PaymentDetails::CheckAmountCell(int column) {
   const std::string typed = CellText(column);
-  std::string text = typed;
-  if (auto cents = entry::ImpliedDecimalText(text)) {
-    text = *cents;
-  } else if (!Currency::Parse(text)) {
-    // A lone "-" or "." (or "-.") stands for nothing typed yet.
-    text = "0";
-  }
+  const std::string text = entry::TypedGridAmount(typed);
   if (text != typed) SetCell(column, Variant(text));
 
   if (column == kPayAmtColumn && events_.PayAmtBeforeUpdate()) {
