@@ -55,6 +55,20 @@ TEST_F(InvoiceDistributionTest, TabPastTheAmountOpensTheWindowAndTheFirstSplitIs
   EXPECT_EQ(host.Events().back().name, "DistributionEntered");
 }
 
+TEST_F(InvoiceDistributionTest, EnterAfterATypedAmountOpensTheWindowForThatAmount) {
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  user.Type("INV-7\t");
+  InDialog([&] {
+    EXPECT_EQ(Dialog().AmountToDistribute(), Money("42.5"));
+    user.Click(Accept());
+  });
+  user.Type("4250");
+  user.PressEnter();
+  EXPECT_EQ(form.PendingDialogScripts(), 0u);
+  EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 1);
+  EXPECT_EQ(host.Events().back().name, "FirstDistributionEntered");
+}
+
 TEST_F(InvoiceDistributionTest, CancellingChangesNothingAndDeletingTheRowDropsItsLines) {
   control.AddInvoice(Day(2026, 2, 1), "A", Money("100"));
   control.AddInvoice(Day(2026, 2, 1), "B", Money("10"));

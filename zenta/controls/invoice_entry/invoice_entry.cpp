@@ -9,6 +9,7 @@
 #include "zenta/core/host_error.h"
 #include "zenta/entry/amount_entry.h"
 #include "zenta/entry/amount_key_filter.h"
+#include "zenta/entry/enter_key.h"
 #include "zenta/entry/text_filters.h"
 #include "zenta/platform/grid_engine.h"
 #include "zenta/platform/keys.h"
@@ -84,6 +85,7 @@ InvoiceEntry::InvoiceEntry(platform::ControlSurface& surface, platform::HostServ
   context_.SetCurrencyCode(std::string(LibraryContext::kHomeCurrency));
   BuildColumns();
   WireGrid();
+  surface_.OnKeyDown([this](platform::KeyDown& key) { entry::EnterMovesOn(key, host_); });
   grid_.Engine().SetSource(&store_);
   ApplyColors();
 }
@@ -151,10 +153,18 @@ void InvoiceEntry::WireGrid() {
 }
 
 void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
-  // Leaving a row's last amount forward opens its distribution once the grid has settled.
   const bool forward = key.key_code == platform::keys::kTab || key.key_code == platform::keys::kEnter;
-  if (!forward || key.shift != platform::kNoShift || grid_.Engine().CurrentColumn() != LastAmountColumn()) return;
-  grid_.Engine().PostMessage(kOpenDistribution);
+  if (!forward || key.shift != platform::kNoShift) return;
+  platform::GridEngine& engine = grid_.Engine();
+  if (!engine.CommitEdit()) {
+    key.key_code = 0;
+    return;
+  }
+  const int column = engine.CurrentColumn();
+  if (column != LastAmountColumn() && column != Col::kViewDistColumn) return;
+  // Leaving a row's last amount forward opens its distribution once the key has been handled.
+  key.key_code = 0;
+  engine.PostMessage(kOpenDistribution);
 }
 
 void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
