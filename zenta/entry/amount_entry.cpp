@@ -51,4 +51,10 @@ void ApplyAmountSettings(platform::NumberEdit& edit) {
   edit.SetEditFormat(std::string(formats::kAmountEdit));
 }
 
+std::string TypedGridAmount(std::string_view typed) {
+  if (auto cents = ImpliedDecimalText(typed)) return *cents;
+  if (!Currency::Parse(typed)) return "0";
+  return std::string(typed);
+}
+
 }  // namespace zenta::entry

@@ -20,6 +20,9 @@ bool ApplyImpliedDecimal(platform::NumberEdit& edit);
 std::optional<Currency> ImpliedDecimalValue(std::string_view text);
 // As ImpliedDecimalValue, formatted "########0.00" ("12345" gives "123.45").
 std::optional<std::string> ImpliedDecimalText(std::string_view text);
+// What an amount typed into a grid cell is stored as: typed cents as ImpliedDecimalText gives
+// them, a number with "." as typed, and a lone "-" or "." (nothing typed yet) as "0".
+std::string TypedGridAmount(std::string_view typed);
 
 // Money set by the program is never divided: the value goes in as it is, and a text without
 // "." is rewritten with two decimals (1234 shows "1234.00").

@@ -1,6 +1,7 @@
 #include "zenta/controls/payment_details/payment_details.h"
 
-#include "zenta/controls/payment_details/distribution_handover.h"
+#include "zenta/controls/distribution/distribution_handover.h"
+#include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/payment_details/payment_key_filter.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
@@ -18,11 +19,10 @@ namespace {
 using platform::TwipsRect;
 
 constexpr const char* kPaymentRequired = "A payment amount is required";
-constexpr const char* kGSTRequired = "A GST/HST amount is required (0.00 is acceptable)";
+using texts::kGSTRequired;
 constexpr const char* kNotEqual =
     "The payment amount does not equal the G/L Distribution amount. Please click the \"View Dist\" button.";
-constexpr const char* kNoDistribution =
-    "You must enter the G/L Distribution. Please click the \"View Dist\" button.";
+using texts::kNoDistribution;
 
 constexpr TwipsRect kGridRect{0, 0, 2640, 585};
 constexpr int kPrivateGridWidth = 2640;
@@ -31,13 +31,6 @@ constexpr int kBusinessGridWidth = 6810;
 constexpr int kBusinessWidth = 6840;
 constexpr int kForeignPayAmtWidth = 5200;
 
-// The dialog's grid as this control shows it: account and amount on pale green, rows on light
-// grey and white.
-constexpr OleColor kLineBack = Rgb(160, 240, 220);
-constexpr OleColor kEvenRowBack = Rgb(240, 240, 240);
-constexpr OleColor kOddRowBack = Rgb(255, 255, 255);
-constexpr int kDialogAccountColumn = 1;
-constexpr int kDialogAmountColumn = 2;
 
 platform::GridColumn Described(const char* caption, platform::ColumnKind kind, int width) {
   platform::GridColumn column;
@@ -179,13 +172,7 @@ void PaymentDetails::ShowDistributionSteps() {
   grid_.Engine().CommitRow();
   FrmDistribution& dialog = context_.Distribution();
   dialog.SetVisibleInvoice(false);
-  platform::GridEngine& lines = dialog.Grid().Engine();
-  lines.SetColumnColors(kDialogAccountColumn, kLineBack, colors::kBlack);
-  lines.SetColumnColors(kDialogAmountColumn, kLineBack, colors::kBlack);
-  platform::GridColors row_colors = lines.Colors();
-  row_colors.even_row_back = kEvenRowBack;
-  row_colors.odd_row_back = kOddRowBack;
-  lines.SetColors(row_colors);
+  StyleDialogLines(dialog.Grid().Engine());
   // Payments are never split in foreign-currency mode, whatever the shared code says.
   dialog.SetIsFXPayment(false);
   const DialogPlacement place = PlaceBelowRow(host_.Container(), grid_.FirstRowTop(), grid_.RowHeight());
@@ -199,13 +186,7 @@ void PaymentDetails::ShowDistributionSteps() {
   const Currency amount = CellAmount(BusinessMode() ? kNetExpenseColumn : kPayAmtColumn);
   dialog.SetAmountToDistribute(amount);
   dialog.SetPaymentFor(Variant(CellText(kPaymentForColumn)));
-  if (!had_lines) {
-    // The whole amount proposed on one line.
-    table->Set(table->LowerBound(1), kDialogAccountColumn, Variant(default_gl_account_));
-    table->Set(table->LowerBound(1), kDialogAmountColumn, Variant(amount));
-    lines.Rebind();
-    dialog.CalculateDistAmounts();
-  }
+  if (!had_lines) ProposeWholeAmount(dialog, *table, default_gl_account_, amount);
 
   dialog.Show();
   if (!dialog.Chosen()) return;
@@ -344,13 +325,7 @@ bool PaymentDetails::CheckPaymentValues(std::string& reason) {
 // Reads typed cents, then lets the host veto the amount. True when the update is refused.
 bool PaymentDetails::CheckAmountCell(int column) {
   const std::string typed = CellText(column);
-  std::string text = typed;
-  if (auto cents = entry::ImpliedDecimalText(text)) {
-    text = *cents;
-  } else if (!Currency::Parse(text)) {
-    // A lone "-" or "." (or "-.") stands for nothing typed yet.
-    text = "0";
-  }
+  const std::string text = entry::TypedGridAmount(typed);
   if (text != typed) SetCell(column, Variant(text));
 
   if (column == kPayAmtColumn && events_.PayAmtBeforeUpdate()) {

@@ -1,4 +1,4 @@
-#include "zenta/controls/payment_details/distribution_handover.h"
+#include "zenta/controls/distribution/distribution_handover.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "zenta/controls/distribution/frm_distribution.h"
 #include "zenta/core/currency.h"
 #include "zenta/platform/array_2d.h"
 #include "zenta/platform/container_metrics.h"
@@ -29,5 +30,12 @@ std::shared_ptr<platform::Array2D> LinesForDialog(const clsDistributions& lines)
 void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines);
 
 Currency SumOfLines(const clsDistributions& lines);
+
+// The window's line grid as the grid controls show it: account and amount on pale green, rows
+// on light grey and white.
+void StyleDialogLines(platform::GridEngine& lines);
+
+// A distribution opened for the first time proposes the whole amount on the default account.
+void ProposeWholeAmount(FrmDistribution& dialog, platform::Array2D& table, const std::string& account, Currency amount);
 
 }  // namespace zenta

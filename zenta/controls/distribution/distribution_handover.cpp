@@ -1,10 +1,12 @@
-#include "zenta/controls/payment_details/distribution_handover.h"
+#include "zenta/controls/distribution/distribution_handover.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 
 #include "zenta/core/host_error.h"
+#include "zenta/core/ole_color.h"
+#include "zenta/platform/grid_engine.h"
 
 namespace zenta {
 
@@ -77,6 +79,23 @@ Currency SumOfLines(const clsDistributions& lines) {
   Currency sum;
   for (const auto& line : lines) sum += line->Amount;
   return sum;
+}
+
+void StyleDialogLines(platform::GridEngine& lines) {
+  constexpr OleColor kLineBack = Rgb(160, 240, 220);
+  lines.SetColumnColors(kAccountColumn, kLineBack, colors::kBlack);
+  lines.SetColumnColors(kAmountColumn, kLineBack, colors::kBlack);
+  platform::GridColors row_colors = lines.Colors();
+  row_colors.even_row_back = Rgb(240, 240, 240);
+  row_colors.odd_row_back = Rgb(255, 255, 255);
+  lines.SetColors(row_colors);
+}
+
+void ProposeWholeAmount(FrmDistribution& dialog, platform::Array2D& table, const std::string& account, Currency amount) {
+  table.Set(table.LowerBound(1), kAccountColumn, Variant(account));
+  table.Set(table.LowerBound(1), kAmountColumn, Variant(amount));
+  dialog.Grid().Engine().Rebind();
+  dialog.CalculateDistAmounts();
 }
 
 }  // namespace zenta

@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "tests/controls/invoice_entry/invoice_screen.h"
+
+namespace zenta::testing {
+namespace {
+
+class InvoiceDistributionTest : public ::testing::Test, public InvoiceScreen {
+ protected:
+  void SetUp() override {
+    host.SetToday(Day(2026, 3, 1));
+    control.SetDefaultGLAccount("5100");
+  }
+  // The payer splits the invoice (amounts typed in cents): 60 stays on the proposed account, the rest goes to 5200.
+  void SplitSixtyForty() {
+    user.ClickCell(Dialog().Grid(), 0, 2);
+    user.Type("6000\t");
+    user.ClickCell(Dialog().Grid(), 4, 1);
+    user.Type("5200\t");
+    user.Click(Accept());
+  }
+};
+
+TEST_F(InvoiceDistributionTest, TabPastTheAmountOpensTheWindowAndTheFirstSplitIsAnnouncedAfterwards) {
+  control.AddInvoice(Day(2026, 2, 1), "INV-1", Money("100"));
+  InDialog([&] {
+    EXPECT_EQ(Dialog().AmountToDistribute(), Money("100"));
+    // The event waits until the grid handler has returned.
+    EXPECT_EQ(std::count(Events().begin(), Events().end(), "FirstDistributionEntered"), 0);
+    SplitSixtyForty();
+  });
+  user.ClickCell(Grid(), 0, InvoiceStore::kAmountColumn);
+  user.PressTab();
+  EXPECT_EQ(form.PendingDialogScripts(), 0u);
+  const auto invoice = control.InvoiceValues(1);
+  ASSERT_EQ(invoice->Distributions->Count(), 2);
+  EXPECT_EQ(invoice->Distributions->Item(Variant(1))->GLAccount, "5100");
+  EXPECT_EQ(invoice->Distributions->Item(Variant(2))->Amount, Money("40"));
+  ASSERT_FALSE(host.Events().empty());
+  EXPECT_EQ(host.Events().back().name, "FirstDistributionEntered");
+  EXPECT_EQ(host.Events().back().args.front().ToInteger(), 1);
+  std::string reason;
+  bool incomplete = false;
+  EXPECT_TRUE(control.IsDataValid(reason, incomplete)) << reason;
+
+  // Opening it again shows the lines and announces a further change.
+  InDialog([&] {
+    EXPECT_EQ(Dialog().Grid().Engine().DisplayedText(1, 1), "5200");
+    user.Click(Accept());
+  });
+  control.ShowDistribution();
+  form.Settle();
+  EXPECT_EQ(host.Events().back().name, "DistributionEntered");
+}
+
+TEST_F(InvoiceDistributionTest, EnterAfterATypedAmountOpensTheWindowForThatAmount) {
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  user.Type("INV-7\t");
+  InDialog([&] {
+    EXPECT_EQ(Dialog().AmountToDistribute(), Money("42.5"));
+    user.Click(Accept());
+  });
+  user.Type("4250");
+  user.PressEnter();
+  EXPECT_EQ(form.PendingDialogScripts(), 0u);
+  EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 1);
+  EXPECT_EQ(host.Events().back().name, "FirstDistributionEntered");
+}
+
+TEST_F(InvoiceDistributionTest, CancellingChangesNothingAndDeletingTheRowDropsItsLines) {
+  control.AddInvoice(Day(2026, 2, 1), "A", Money("100"));
+  control.AddInvoice(Day(2026, 2, 1), "B", Money("10"));
+  InDialog([&] { user.Click(Cancel()); });
+  control.SetCurrentRow(1);
+  control.ShowDistribution();
+  form.Settle();
+  EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 0);
+  InDialog([&] { SplitSixtyForty(); });
+  control.SetCurrentRow(1);
+  control.ShowDistribution();
+  form.Settle();
+  EXPECT_EQ(control.Store().LineCount(), 2u);
+  control.SetCurrentRow(1);
+  control.DeleteCurrentRow();
+  EXPECT_EQ(control.RowCount(), 1);
+  EXPECT_EQ(control.Store().LineCount(), 0u);
+  EXPECT_EQ(control.InvoiceValues(1)->InvoiceNo, "B");
+}
+
+}  // namespace
+}  // namespace zenta::testing

@@ -1,0 +1,656 @@
+#include "zenta/controls/invoice_entry/invoice_entry.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "zenta/controls/distribution/distribution_handover.h"
+#include "zenta/controls/distribution/validation_texts.h"
+#include "zenta/controls/invoice_entry/detail_lines.h"
+#include "zenta/core/host_error.h"
+#include "zenta/entry/amount_entry.h"
+#include "zenta/entry/amount_key_filter.h"
+#include "zenta/entry/enter_key.h"
+#include "zenta/entry/text_filters.h"
+#include "zenta/platform/grid_engine.h"
+#include "zenta/platform/keys.h"
+#include "zenta/platform/message_box.h"
+
+namespace zenta {
+namespace {
+
+using Col = InvoiceStore::Column;
+
+constexpr platform::TwipsRect kInvoiceGridRect{0, 0, 6120, 2415};
+constexpr platform::TwipsRect kDistributionGridRect{6180, 0, 2880, 2415};
+constexpr int kMaxNumberLength = 255;
+// "#######0.00": eight digits before the point, two after.
+constexpr entry::AmountDigitLimits kAmountDigits{8, 2};
+constexpr std::int64_t kForeignLimit = 9'999'999'99LL * (Currency::kScale / 100);
+
+constexpr const char* kDateRequired = "An invoice date is required";
+constexpr const char* kNumberRequired = "An invoice number / description is required";
+constexpr const char* kAmountRequired = "An invoice amount is required";
+constexpr const char* kTooFarAhead =
+    "The Invoice Date cannot be set to more than two years into the future. Please adjust the date.";
+constexpr const char* kDateTitle = "Invoice Date Validation";
+constexpr const char* kFutureDate = "You have entered future dated invoice, would you like to change it?";
+constexpr const char* kLongAgo =
+    "The Invoice Date you entered is more than a year earlier than the current date, would you like to change it?";
+using texts::kGSTRequired;
+constexpr const char* kNumberTooLong = "The Invoice Number/Description cannot be more than 255 characters.";
+using texts::kNoDistribution;
+constexpr const char* kNotEqual =
+    "The invoice amount does not equal the G/L Distribution amount. Please click the \"View Dist\" button.";
+
+platform::GridColumn Described(const char* caption, platform::ColumnKind kind, int width, bool visible = true) {
+  platform::GridColumn column;
+  column.caption = caption;
+  column.kind = kind;
+  column.width = width;
+  column.visible = visible;
+  return column;
+}
+
+std::string Trimmed(const std::string& text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string Upper(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return text;
+}
+
+std::string Text(const Variant& value) {
+  if (value.IsEmpty() || value.IsNull()) return {};
+  try {
+    return value.ToString();
+  } catch (const HostError&) {
+    return {};
+  }
+}
+
+bool InForeignRange(Currency amount) { return amount.Units() >= -kForeignLimit && amount.Units() <= kForeignLimit; }
+
+}  // namespace
+
+InvoiceEntry::InvoiceEntry(platform::ControlSurface& surface, platform::HostServices& host, LibraryContext& context)
+    : surface_(surface),
+      host_(host),
+      context_(context),
+      events_(host),
+      grid_(surface.AddGrid({"grInvoices", kInvoiceGridRect, "", true}, InvoiceStore::kColumnCount)),
+      distribution_grid_(surface.AddGrid({"grDistribution", kDistributionGridRect, "", false}, 3)) {
+  context_.SetCurrencyCode(std::string(LibraryContext::kHomeCurrency));
+  BuildColumns();
+  WireGrid();
+  surface_.OnKeyDown([this](platform::KeyDown& key) { entry::EnterMovesOn(key, host_); });
+  grid_.Engine().SetSource(&store_);
+  ApplyColors();
+}
+
+InvoiceEntry::~InvoiceEntry() {
+  *alive_ = false;
+  grid_.Engine().SetSource(nullptr);
+}
+
+void InvoiceEntry::BuildColumns() {
+  platform::GridEngine& engine = grid_.Engine();
+  using platform::ColumnKind;
+  engine.SetColumn(Col::kIdColumn, Described("ID", ColumnKind::Number, 0, false));
+  engine.SetColumn(Col::kDateColumn, Described("Invoice Date", ColumnKind::Date, 1200));
+  engine.SetColumn(Col::kNumberColumn, Described("Invoice Number / Description", ColumnKind::Text, 2400));
+  engine.SetColumn(Col::kAmountColumn, Described("Invoice Amount", ColumnKind::Number, 1335));
+  engine.SetColumn(Col::kGSTColumn, Described("Refundable GST/HST", ColumnKind::Number, 1335, false));
+  engine.SetColumn(Col::kExpenseColumn, Described("Net Expense", ColumnKind::Number, 1335, false));
+  engine.SetColumn(Col::kViewDistColumn, Described("View Dist", ColumnKind::Button, 900));
+  engine.SetColumn(Col::kPaymentForColumn, Described("Payment For", ColumnKind::Text, 0, false));
+  engine.SetColumn(Col::kEmailColumn, Described("Email", ColumnKind::Text, 0, false));
+  engine.SetColumnLocked(Col::kExpenseColumn, true);
+  engine.SetAllowAddNew(true);
+  engine.SetAllowDelete(true);
+}
+
+void InvoiceEntry::WireGrid() {
+  platform::GridHandlers& on = grid_.Engine().Handlers();
+  on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
+  on.after_col_update = [this](int column) { last_edited_column_ = column; };
+  on.after_update = [this] { grid_.Engine().PostMessage(kAfterRowEdit); };
+  on.before_delete = [this](platform::CancelArgs& args) {
+    if (deleting_) return;
+    args.cancel = host_.ShowMessage({"Are you sure you want to delete this invoice?", "Delete this invoice?",
+                                     platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
+                  platform::MessageResult::No;
+  };
+  on.after_delete = [this] { events_.Recalculate(); };
+  distribution_grid_.Engine().Handlers().before_delete = [this](platform::CancelArgs& args) {
+    args.cancel = host_.ShowMessage({"Are you sure you want to delete this distribution?", "Delete this distribution?",
+                                     platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
+                  platform::MessageResult::No;
+  };
+  on.button_click = [this](int column) {
+    if (column == Col::kViewDistColumn) grid_.Engine().PostMessage(kOpenDistribution);
+  };
+  on.key_down = [this](platform::KeyDown& key) { OnKeyDown(key); };
+  on.key_press = [](platform::CellKeyPressArgs& args) {
+    if (args.key == 8 || args.key == 13) return;
+    if (args.column >= Col::kAmountColumn && args.column <= Col::kExpenseColumn) {
+      args.key = entry::FilterAmountKey(args.text, args.selection_start, args.selection_length, args.key, kAmountDigits);
+    } else if (args.column == Col::kNumberColumn && args.key < 0x80) {
+      if (entry::StripInvalidChars(std::string(1, static_cast<char>(args.key))).empty()) args.key = 0;
+    } else if (args.column == Col::kNumberColumn) {
+      args.key = 0;
+    }
+  };
+  on.posted = [this](int message) { OnPosted(message); };
+  on.format_text = [this](platform::FormatTextArgs& args) {
+    if (args.column < Col::kAmountColumn || args.column > Col::kExpenseColumn || args.value.IsEmpty()) return;
+    const Currency value = args.value.ToCurrency();
+    const bool rate = ForeignMode() && args.column == Col::kGSTColumn;
+    args.text = rate ? std::to_string(value.ToDouble()) : value.RoundedTo(2).ToString();
+  };
+}
+
+void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
+  const bool forward = key.key_code == platform::keys::kTab || key.key_code == platform::keys::kEnter;
+  if (!forward || key.shift != platform::kNoShift) return;
+  platform::GridEngine& engine = grid_.Engine();
+  if (!engine.CommitEdit()) {
+    key.key_code = 0;
+    return;
+  }
+  const int column = engine.CurrentColumn();
+  if (column != LastAmountColumn() && column != Col::kViewDistColumn) return;
+  // Leaving a row's last amount forward opens its distribution once the key has been handled.
+  key.key_code = 0;
+  engine.PostMessage(kOpenDistribution);
+}
+
+void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
+  if (deleting_) return;
+  platform::GridEngine& engine = grid_.Engine();
+  if (args.column == Col::kDateColumn) {
+    const auto date = Date::Parse(Trimmed(engine.CellText(Col::kDateColumn)));
+    if (!date) return;
+    const Date today = host_.Today();
+    const char* question = nullptr;
+    if (*date > today && *date <= today.AddYears(2)) {
+      question = kFutureDate;
+    } else if (date->DaysUntil(today) > 365) {
+      question = kLongAgo;
+    }
+    if (question && Ask(question, kDateTitle)) args.cancel = true;
+  } else if (args.column == Col::kNumberColumn) {
+    std::string number = engine.CellText(Col::kNumberColumn);
+    if (number.size() > kMaxNumberLength) {
+      host_.ShowMessage({kNumberTooLong, "Invoice Number/Description Validation", platform::MessageButtons::Ok,
+                         platform::MessageIcon::Information});
+      number_refused_ = true;
+      args.cancel = true;
+      return;
+    }
+    number_refused_ = events_.CheckDuplicateInvoices(number);
+    args.cancel = number_refused_;
+  } else if (args.column >= Col::kAmountColumn && args.column <= Col::kExpenseColumn) {
+    const std::string typed = engine.CellText(args.column);
+    const std::string text = entry::TypedGridAmount(typed);
+    if (text != typed) engine.SetCellValue(args.column, Variant(text));
+  }
+  if (args.column == Col::kAmountColumn) {
+    const Variant typed = engine.CellValue(Col::kAmountColumn);
+    Currency amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
+    amount_refused_ = events_.ValidateInvoiceAmountLimit(amount);
+    args.cancel = amount_refused_;
+  }
+}
+
+bool InvoiceEntry::Ask(const char* question, const char* title) {
+  return host_.ShowMessage({question, title, platform::MessageButtons::YesNo, platform::MessageIcon::Information}) ==
+         platform::MessageResult::Yes;
+}
+
+void InvoiceEntry::OnPosted(int message) {
+  const std::int16_t row = static_cast<std::int16_t>(pending_row_);
+  switch (message) {
+    case kRaiseFirstDistribution: {
+      std::int16_t the_row = row;
+      events_.FirstDistributionEntered(the_row);
+      break;
+    }
+    case kRaiseDistribution: {
+      std::int16_t the_row = row;
+      events_.DistributionEntered(the_row);
+      break;
+    }
+    case kAfterRowEdit: AfterRowEdit(); break;
+    case kOpenDistribution: ShowDistribution(); break;
+    case kForeignRangeMessage:
+      host_.ShowMessage({kForeignRangeText, "", platform::MessageButtons::Ok, platform::MessageIcon::Information});
+      grid_.Engine().Refresh();
+      break;
+    default: break;
+  }
+}
+
+void InvoiceEntry::AfterRowEdit() {
+  const auto current = grid_.Engine().CurrentRow();
+  if (current && *current < store_.Count()) {
+    if (ForeignMode()) {
+      Convert(*current, last_edited_column_);
+    } else if (BusinessMode()) {
+      InvoiceStore::Row row = store_.At(*current);
+      if (row.amount || row.gst) row.expense = row.amount.value_or(Currency()) - row.gst.value_or(Currency());
+      store_.Put(*current, std::move(row));
+    }
+    grid_.Engine().Refresh();
+  }
+  events_.Recalculate();
+}
+
+void InvoiceEntry::Convert(int index, int changed_column) {
+  InvoiceStore::Row row = store_.At(index);
+  const double rate = currency_rate_;
+  row.gst = Currency::FromDouble(rate);
+  if (changed_column == Col::kExpenseColumn && row.expense) {
+    if (rate == 0) return;
+    const Currency foreign = row.expense->DividedBy(rate).RoundedTo(2);
+    if (!InForeignRange(foreign)) {
+      grid_.Engine().PostMessage(kForeignRangeMessage);
+      return;
+    }
+    row.amount = foreign;
+  } else if (row.amount) {
+    if (!InForeignRange(*row.amount)) {
+      grid_.Engine().PostMessage(kForeignRangeMessage);
+      return;
+    }
+    row.expense = row.amount->MultipliedBy(rate).RoundedTo(2);
+  }
+  store_.Put(index, std::move(row));
+}
+
+void InvoiceEntry::Clear() {
+  grid_.Engine().CancelEdit();
+  store_.Clear();
+  Rebind();
+  SetupIPGrid();
+  grid_.Engine().SetCurrentColumn(Col::kDateColumn);
+  grid_.Engine().SetCurrentColumn(Col::kDateColumn);
+}
+
+void InvoiceEntry::SetBackColor(OleColor color) {
+  properties_.back_color = color;
+  surface_.SetBackColor(color);
+  host_.MarkPropertyChanged("BackColor");
+}
+
+void InvoiceEntry::SetBusinessMode(bool on) {
+  properties_.business_mode = on;
+  Clear();
+}
+
+void InvoiceEntry::SetBackColorGridHeader(OleColor color) {
+  properties_.back_color_grid_header = color;
+  ApplyColors();
+}
+void InvoiceEntry::SetBackColorGridFooter(OleColor color) {
+  properties_.back_color_grid_footer = color;
+  ApplyColors();
+}
+void InvoiceEntry::SetForeColorGridHeader(OleColor color) {
+  properties_.fore_color_grid_header = color;
+  ApplyColors();
+}
+void InvoiceEntry::SetForeColorGridFooter(OleColor color) {
+  properties_.fore_color_grid_footer = color;
+  ApplyColors();
+}
+void InvoiceEntry::SetRowColorEven(OleColor color) {
+  properties_.row_color_even = color;
+  ApplyColors();
+}
+void InvoiceEntry::SetRowColorOdd(OleColor color) {
+  properties_.row_color_odd = color;
+  ApplyColors();
+}
+
+void InvoiceEntry::ApplyColors() {
+  platform::GridColors colors;
+  colors.header_back = properties_.back_color_grid_header;
+  colors.header_fore = properties_.fore_color_grid_header;
+  colors.footer_back = properties_.back_color_grid_footer;
+  colors.footer_fore = properties_.fore_color_grid_footer;
+  colors.even_row_back = properties_.row_color_even;
+  colors.odd_row_back = properties_.row_color_odd;
+  grid_.Engine().SetColors(colors);
+  distribution_grid_.Engine().SetColors(colors);
+}
+
+void InvoiceEntry::SetEnabled(bool enabled) {
+  properties_.enabled = enabled;
+  ApplyEnabled();
+}
+
+void InvoiceEntry::ApplyEnabled() {
+  for (platform::Widget* child : surface_.Children()) child->SetEnabled(properties_.enabled);
+}
+
+void InvoiceEntry::ShowDistribution() {
+  platform::GridEngine& engine = grid_.Engine();
+  if (!engine.CommitRow()) return;
+  const auto current = engine.CurrentRow();
+  if (!current || *current >= store_.Count()) return;
+  const int index = *current;
+  pending_row_ = index + 1;
+  const bool first = store_.EnsureId(index);
+  const InvoiceStore::Row& row = store_.At(index);
+
+  FrmDistribution& dialog = context_.Distribution();
+  dialog.SetVisibleInvoice(true);
+  StyleDialogLines(dialog.Grid().Engine());
+  dialog.SetIsFXPayment(ForeignMode());
+  if (ForeignMode()) {
+    dialog.SetCurrencyRate(Currency::FromDouble(currency_rate_));
+    dialog.SetFXCurrencyCode(ip_currency_);
+  }
+  clsDistributions existing;
+  if (const auto* lines = store_.Lines(row.id)) {
+    for (const InvoiceLine& line : *lines) existing.Add(line.ID, line.GLAccount, line.Amount);
+  }
+  auto table = LinesForDialog(existing);
+  dialog.SetXTempDistribution(table);
+  dialog.SetupForm();
+  const Currency amount = Distributable(row);
+  dialog.SetAmountToDistribute(amount);
+  dialog.SetInvoiceNo(row.number);
+  dialog.SetPaymentFor(Variant(row.payment_for));
+  if (existing.Count() == 0) ProposeWholeAmount(dialog, *table, properties_.default_gl_account, amount);
+
+  std::weak_ptr<bool> alive = alive_;
+  dialog.Show();
+  if (alive.expired() || !dialog.Chosen()) return;
+  deleting_ = false;
+  clsDistributions accepted;
+  if (const auto& back = dialog.XTempDistribution()) CopyLinesBack(*back, accepted);
+  std::vector<InvoiceLine> lines;
+  lines.reserve(static_cast<std::size_t>(accepted.Count()));
+  for (const auto& line : accepted) lines.push_back({line->ID, line->GLAccount, line->Amount});
+  const std::int16_t id = store_.At(index).id;
+  store_.SetLines(id, std::move(lines));
+  store_.SetPaymentFor(index, Text(dialog.PaymentFor()));
+  engine.Refresh();
+  engine.PostMessage(first ? kRaiseFirstDistribution : kRaiseDistribution);
+}
+
+Currency InvoiceEntry::Distributable(const InvoiceStore::Row& row) const {
+  if (BusinessMode() || ForeignMode()) return row.expense.value_or(Currency());
+  return row.amount.value_or(Currency());
+}
+
+Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const {
+  Currency total;
+  if (const auto* lines = store_.Lines(row.id)) {
+    for (const InvoiceLine& line : *lines) total += line.Amount;
+  }
+  return total;
+}
+
+bool InvoiceEntry::Fail(std::string& InvalidReason, const std::string& reason, int column) {
+  InvalidReason = reason;
+  grid_.Engine().SetCurrentColumn(column);
+  grid_.SetFocus();
+  return false;
+}
+
+bool InvoiceEntry::CheckCurrentRow(std::string& reason, bool& incomplete, int& column) {
+  const platform::GridEngine& engine = grid_.Engine();
+  if (!engine.CurrentRow()) return true;
+  const bool no_date = Trimmed(engine.CellText(Col::kDateColumn)).empty();
+  const std::string number = Trimmed(engine.CellText(Col::kNumberColumn));
+  const bool no_amount = Trimmed(engine.CellText(Col::kAmountColumn)).empty();
+  const bool no_gst = Trimmed(engine.CellText(Col::kGSTColumn)).empty();
+  if (no_date && number.empty() && no_amount && (!BusinessMode() || no_gst)) return true;
+  incomplete = true;
+  if (no_date) return reason = kDateRequired, column = Col::kDateColumn, false;
+  if (number.empty()) return reason = kNumberRequired, column = Col::kNumberColumn, false;
+  if (no_amount) return reason = kAmountRequired, column = Col::kAmountColumn, false;
+  incomplete = false;
+  const Variant date = engine.CellValue(Col::kDateColumn);
+  if (date.ToDate() > host_.Today().AddYears(2)) return reason = kTooFarAhead, column = Col::kDateColumn, false;
+  incomplete = true;
+  if (BusinessMode() && !ForeignMode() && no_gst) return reason = kGSTRequired, column = Col::kGSTColumn, false;
+  incomplete = false;
+  if (ForeignMode() && !InForeignRange(engine.CellValue(Col::kAmountColumn).ToCurrency())) {
+    grid_.Engine().PostMessage(kForeignRangeMessage);
+  }
+  return true;
+}
+
+bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
+  InvalidReason.clear();
+  try {
+    std::string reason;
+    int column = 0;
+    bool incomplete = false;
+    if (!CheckCurrentRow(reason, incomplete, column)) {
+      Incomplete = incomplete;
+      return Fail(InvalidReason, reason, column);
+    }
+    grid_.Engine().CommitRow();
+    if (number_refused_ || amount_refused_) return false;
+    for (int i = 0; i < store_.Count(); ++i) {
+      const InvoiceStore::Row& row = store_.At(i);
+      if (InvoiceStore::IsBlank(row)) continue;
+      if (row.number.size() > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
+      const Currency lines = LinesTotal(row);
+      const Currency due = Distributable(row);
+      if (lines.IsZero() && !due.IsZero()) return Fail(InvalidReason, kNoDistribution, Col::kViewDistColumn);
+      if (lines != due) return Fail(InvalidReason, kNotEqual, Col::kViewDistColumn);
+    }
+    const auto current = grid_.Engine().CurrentRow();
+    if (current && *current < store_.Count()) {
+      const InvoiceStore::Row& row = store_.At(*current);
+      if (!InvoiceStore::IsBlank(row)) {
+        if (Trimmed(row.number).empty()) return Fail(InvalidReason, kNumberRequired, Col::kNumberColumn);
+        if (row.number.size() > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
+        if (row.amount && LinesTotal(row).IsZero() && !Distributable(row).IsZero()) {
+          return Fail(InvalidReason, kNoDistribution, Col::kViewDistColumn);
+        }
+        if (BusinessMode() && !ForeignMode() && row.amount && !row.gst) {
+          return Fail(InvalidReason, kGSTRequired, Col::kGSTColumn);
+        }
+      }
+    }
+  } catch (const HostError&) {
+    return false;
+  }
+  return true;
+}
+
+bool InvoiceEntry::DataEntryComplete() const {
+  const platform::GridEngine& engine = grid_.Engine();
+  return !engine.IsEditing() && !engine.RowChanged();
+}
+
+int InvoiceEntry::CheckedRow(std::int16_t TheRow) const {
+  if (TheRow < 1 || TheRow > store_.Count()) {
+    throw HostError::Object(kMissingRow, "InvoiceValues", "The row " + std::to_string(TheRow) + " does not exist");
+  }
+  return TheRow - 1;
+}
+
+std::shared_ptr<clsInvoice> InvoiceEntry::InvoiceValues(std::int16_t TheRow) const {
+  const InvoiceStore::Row& row = store_.At(CheckedRow(TheRow));
+  auto invoice = std::make_shared<clsInvoice>();
+  invoice->ID = row.id;
+  invoice->InvoiceDate = row.date.value_or(Date());
+  invoice->InvoiceNo = row.number;
+  invoice->InvoiceAmount = row.amount.value_or(Currency());
+  invoice->GSTAmount = row.gst.value_or(Currency());
+  invoice->CompanyExpense = row.expense.value_or(Currency());
+  invoice->PaymentFor = row.payment_for;
+  invoice->EmailFilename = row.email;
+  invoice->Distributions = std::make_shared<clsDistributions>();
+  if (const auto* lines = store_.Lines(row.id)) {
+    for (const InvoiceLine& line : *lines) invoice->Distributions->Add(line.ID, line.GLAccount, line.Amount);
+  }
+  return invoice;
+}
+
+Currency InvoiceEntry::TotalAmount() const { return ForeignMode() ? store_.TotalExpense() : store_.TotalAmount(); }
+Currency InvoiceEntry::TotalGST() const { return ForeignMode() ? Currency() : store_.TotalGST(); }
+Currency InvoiceEntry::TotalExpense() const { return store_.TotalExpense(); }
+Currency InvoiceEntry::TotalForeignAmount() const { return store_.TotalAmount(); }
+
+void InvoiceEntry::DeleteCurrentRow() {
+  deleting_ = true;
+  grid_.Engine().DeleteCurrentRow();
+  deleting_ = false;
+}
+
+void InvoiceEntry::SetInvoiceValues(std::int16_t /*TheRow*/, const Variant& value) {
+  (void)value.ToObjectOf<clsInvoice>();
+}
+
+bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Currency InvoiceAmount,
+                              const Variant& GST, const Variant& bShowDistribution) {
+  const int index = store_.TargetRowForAdd("AddInvoice");
+  InvoiceStore::Row row = store_.At(index);
+  row.id = 0;
+  row.date = InvoiceDate;
+  row.number = InvoiceNo;
+  row.amount = InvoiceAmount;
+  if (BusinessMode()) {
+    const Currency gst = GST.IsEmpty() ? Currency() : GST.ToCurrency();
+    row.gst = gst;
+    row.expense = InvoiceAmount - gst;
+  }
+  store_.Put(index, std::move(row));
+  if (ForeignMode()) Convert(index, Col::kAmountColumn);
+  Rebind();
+  if (!bShowDistribution.IsEmpty() && bShowDistribution.ToBool()) {
+    grid_.Engine().SetCurrentRow(index);
+    ShowDistribution();
+    RepositionAfterBulk();
+  }
+  return false;
+}
+
+void InvoiceEntry::Rebind() { grid_.Engine().Rebind(); }
+
+void InvoiceEntry::RepositionAfterBulk() {
+  platform::GridEngine& engine = grid_.Engine();
+  engine.SetCurrentRow(engine.FirstRow());
+  const int count = InvoiceCount();
+  if (count > 0 && count <= store_.Count()) engine.SetCurrentRow(count - 1);
+}
+
+void InvoiceEntry::SetEmailFilename(std::int16_t TheRow, const std::string& TheEmailAddress) {
+  store_.SetEmail(CheckedRow(TheRow), TheEmailAddress);
+}
+
+std::int16_t InvoiceEntry::InvoiceCount_DetailLines() const {
+  int lines = 0;
+  for (int i = 0; i < store_.Count(); ++i) lines += DetailLineCount(store_.At(i).number);
+  if (lines > InvoiceStore::kMaxRows) throw HostError::Overflow("InvoiceCount_DetailLines");
+  return static_cast<std::int16_t>(lines);
+}
+
+std::int16_t InvoiceEntry::InvoiceCount() const {
+  int count = 0;
+  for (int i = 0; i < store_.Count(); ++i) count += Trimmed(store_.At(i).number).empty() ? 0 : 1;
+  return static_cast<std::int16_t>(count);
+}
+
+std::int16_t InvoiceEntry::CurrentRow() const {
+  const auto current = grid_.Engine().CurrentRow();
+  return current ? static_cast<std::int16_t>(*current + 1) : 0;
+}
+
+void InvoiceEntry::SetCurrentRow(std::int16_t row) { grid_.Engine().SetCurrentRow(row - 1); }
+
+void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
+  if (!DataEntryComplete()) DeleteCurrentRow();
+  const std::string name = Upper(Trimmed(strFilename));
+  if (name.empty()) return;
+  store_.RemoveIf([&name](const InvoiceStore::Row& row) { return Upper(row.email) == name; });
+  Rebind();
+  RepositionAfterBulk();
+}
+
+void InvoiceEntry::SetIPCurrency(const std::string& code) {
+  ip_currency_ = code;
+}
+
+void InvoiceEntry::SetOtherCurrencyCode(const Variant& code) { context_.SetCurrencyCode(Text(code)); }
+
+bool InvoiceEntry::ForeignMode() const { return ip_currency_ != LibraryContext::kHomeCurrency; }
+
+int InvoiceEntry::LastAmountColumn() const {
+  return BusinessMode() || ForeignMode() ? Col::kExpenseColumn : Col::kAmountColumn;
+}
+
+void InvoiceEntry::ParseInvoiceNo(const std::string& sInvoiceNo) { parsed_lines_ = WrapDetailLines(sInvoiceNo); }
+
+std::vector<InvoiceOutputLine> InvoiceEntry::PassInvoiceValues(std::int16_t TheRow, bool& bMultiple) {
+  const InvoiceStore::Row& row = store_.At(CheckedRow(TheRow));
+  ParseInvoiceNo(row.number);
+  std::vector<InvoiceOutputLine> out;
+  for (const std::string& text : parsed_lines_) {
+    InvoiceOutputLine line;
+    line.Text = text;
+    if (out.empty()) {
+      line.First = true;
+      line.InvoiceDate = row.date.value_or(Date());
+      line.InvoiceAmount = row.amount.value_or(Currency());
+      line.GSTAmount = row.gst.value_or(Currency());
+      line.CompanyExpense = row.expense.value_or(Currency());
+    }
+    out.push_back(std::move(line));
+  }
+  bMultiple = out.size() > 1;
+  return out;
+}
+
+void InvoiceEntry::SetupIPGrid() {
+  platform::GridEngine& engine = grid_.Engine();
+  const bool foreign = ForeignMode();
+  const bool wide = foreign || BusinessMode();
+  engine.SetColumnVisible(Col::kGSTColumn, wide);
+  engine.SetColumnVisible(Col::kExpenseColumn, wide);
+  engine.SetColumnLocked(Col::kGSTColumn, foreign);
+  engine.SetColumnLocked(Col::kExpenseColumn, !foreign);
+  if (foreign) {
+    engine.SetColumnCaption(Col::kAmountColumn, "Invoice Amount (" + context_.CurrencyCode() + ")");
+    engine.SetColumnCaption(Col::kGSTColumn, "Accounting Rate");
+    engine.SetColumnCaption(Col::kExpenseColumn, "Invoice Amount (CAD)");
+    platform::TwipsRect rect = grid_.Rect();
+    rect.width = kForeignGridWidth;
+    grid_.SetRect(rect);
+  } else {
+    engine.SetColumnCaption(Col::kAmountColumn, "Invoice Amount");
+    engine.SetColumnCaption(Col::kGSTColumn, "Refundable GST/HST");
+    engine.SetColumnCaption(Col::kExpenseColumn, "Net Expense");
+  }
+}
+
+void InvoiceEntry::InitProperties() {
+  properties_ = InvoiceProperties{};
+  ip_currency_ = std::string(LibraryContext::kHomeCurrency);
+  surface_.SetBackColor(properties_.back_color);
+  ApplyColors();
+  ApplyEnabled();
+  Clear();
+}
+
+void InvoiceEntry::ReadProperties(const platform::PropertyBag& bag) {
+  properties_ = InvoiceProperties::Read(bag);
+  surface_.SetBackColor(properties_.back_color);
+  ApplyColors();
+  ApplyEnabled();
+  ip_currency_ = std::string(LibraryContext::kHomeCurrency);
+  Clear();
+}
+
+}  // namespace zenta

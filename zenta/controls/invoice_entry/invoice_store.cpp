@@ -1,0 +1,163 @@
+#include "zenta/controls/invoice_entry/invoice_store.h"
+
+#include <algorithm>
+
+#include "zenta/core/host_error.h"
+
+namespace zenta {
+namespace {
+
+bool BlankText(const std::string& text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c == ' '; });
+}
+
+// A cell the grid hands back: empty or blank text means no value.
+bool Unset(const Variant& value) {
+  if (value.IsEmpty() || value.IsNull()) return true;
+  return value.GetType() == Variant::Type::String && BlankText(value.ToString());
+}
+
+std::optional<Currency> AmountOf(const Variant& value) {
+  if (Unset(value)) return std::nullopt;
+  return value.ToCurrency();
+}
+
+Variant Optional(const std::optional<Currency>& amount) { return amount ? Variant(*amount) : Variant(); }
+
+}  // namespace
+
+bool InvoiceStore::IsBlank(const Row& row) { return !row.date && BlankText(row.number) && !row.amount; }
+
+int InvoiceStore::TargetRowForAdd(const char* source) {
+  for (; blank_from_ < rows_.size(); ++blank_from_) {
+    if (IsBlank(rows_[blank_from_])) return static_cast<int>(blank_from_);
+  }
+  if (Count() >= kMaxRows) throw HostError::Overflow(source);
+  rows_.emplace_back();
+  return Count() - 1;
+}
+
+void InvoiceStore::Put(int row, Row value) {
+  rows_[static_cast<std::size_t>(row)] = std::move(value);
+  NoteBlank(row);
+}
+
+void InvoiceStore::NoteBlank(int row) {
+  if (IsBlank(rows_[static_cast<std::size_t>(row)])) blank_from_ = std::min(blank_from_, static_cast<std::size_t>(row));
+}
+
+void InvoiceStore::Forget(const Row& row) {
+  if (row.id == 0) return;
+  lines_.erase(row.id);
+  live_ids_.erase(row.id);
+}
+
+void InvoiceStore::Remove(int row) {
+  const auto at = rows_.begin() + row;
+  Forget(*at);
+  rows_.erase(at);
+  blank_from_ = std::min(blank_from_, static_cast<std::size_t>(row));
+}
+
+void InvoiceStore::Clear() {
+  rows_.clear();
+  lines_.clear();
+  live_ids_.clear();
+  blank_from_ = 0;
+}
+
+bool InvoiceStore::EnsureId(int row) {
+  Row& target = rows_[static_cast<std::size_t>(row)];
+  if (target.id != 0) return false;
+  // The counter wraps within 1..kMaxRows and passes over identifiers still in use; with at
+  // most kMaxRows rows one is always free.
+  do {
+    id_counter_ = static_cast<std::int16_t>(id_counter_ >= kMaxRows ? 1 : id_counter_ + 1);
+  } while (live_ids_.contains(id_counter_));
+  target.id = id_counter_;
+  live_ids_.insert(id_counter_);
+  return true;
+}
+
+const std::vector<InvoiceLine>* InvoiceStore::Lines(std::int16_t id) const {
+  if (id == 0) return nullptr;
+  const auto found = lines_.find(id);
+  return found == lines_.end() ? nullptr : &found->second;
+}
+
+void InvoiceStore::SetLines(std::int16_t id, std::vector<InvoiceLine> lines) {
+  if (lines.empty()) {
+    lines_.erase(id);
+  } else {
+    lines_[id] = std::move(lines);
+  }
+}
+
+std::size_t InvoiceStore::LineCount() const {
+  std::size_t count = 0;
+  for (const auto& entry : lines_) count += entry.second.size();
+  return count;
+}
+
+Currency InvoiceStore::TotalAmount() const {
+  Currency total;
+  for (const Row& row : rows_) total += row.amount.value_or(Currency());
+  return total;
+}
+
+Currency InvoiceStore::TotalGST() const {
+  Currency total;
+  for (const Row& row : rows_) total += row.gst.value_or(Currency());
+  return total;
+}
+
+Currency InvoiceStore::TotalExpense() const {
+  Currency total;
+  for (const Row& row : rows_) total += row.expense.value_or(Currency());
+  return total;
+}
+
+Variant InvoiceStore::Cell(int row, int column) const {
+  const Row& r = At(row);
+  switch (column) {
+    case kIdColumn: return Variant(r.id);
+    case kDateColumn: return r.date ? Variant(*r.date) : Variant();
+    case kNumberColumn: return Variant(r.number);
+    case kAmountColumn: return Optional(r.amount);
+    case kGSTColumn: return Optional(r.gst);
+    case kExpenseColumn: return Optional(r.expense);
+    case kPaymentForColumn: return Variant(r.payment_for);
+    case kEmailColumn: return Variant(r.email);
+    default: return {};
+  }
+}
+
+void InvoiceStore::ApplyCell(Row& row, int column, const Variant& value) {
+  switch (column) {
+    case kDateColumn: row.date = Unset(value) ? std::nullopt : std::optional<Date>(value.ToDate()); break;
+    case kNumberColumn: row.number = Unset(value) ? std::string() : value.ToString(); break;
+    case kAmountColumn: row.amount = AmountOf(value); break;
+    case kGSTColumn: row.gst = AmountOf(value); break;
+    case kExpenseColumn: row.expense = AmountOf(value); break;
+    case kPaymentForColumn: row.payment_for = Unset(value) ? std::string() : value.ToString(); break;
+    case kEmailColumn: row.email = Unset(value) ? std::string() : value.ToString(); break;
+    default: break;  // the identifier belongs to the store; the button column holds nothing
+  }
+}
+
+void InvoiceStore::WriteRow(int row, const std::map<int, Variant>& cells) {
+  Row& target = rows_[static_cast<std::size_t>(row)];
+  for (const auto& [column, value] : cells) ApplyCell(target, column, value);
+  NoteBlank(row);
+}
+
+int InvoiceStore::AppendRow(const std::map<int, Variant>& cells) {
+  if (Count() >= kMaxRows) throw HostError::Overflow("grInvoices");
+  Row row;
+  for (const auto& [column, value] : cells) ApplyCell(row, column, value);
+  rows_.push_back(std::move(row));
+  NoteBlank(Count() - 1);
+  return Count() - 1;
+}
+
+}  // namespace zenta

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "zenta/core/currency.h"
+#include "zenta/core/date.h"
+#include "zenta/core/variant.h"
+#include "zenta/platform/grid_source.h"
+
+namespace zenta {
+
+// One G/L line of an invoice's distribution, as the distribution window hands it back.
+struct InvoiceLine {
+  Variant ID;
+  std::string GLAccount;
+  Currency Amount;
+};
+
+// The invoice list and its distribution lines, sized for the 16-bit row numbers of the public
+// interface: at most kMaxRows rows. Every operation a host repeats over the list is constant or
+// linear: appending finds the first blank row without scanning when there is none, lines are
+// reached through the row identifier, and bulk deletion compacts in one pass.
+class InvoiceStore : public platform::GridSource {
+ public:
+  enum Column {
+    kIdColumn = 0,
+    kDateColumn = 1,
+    kNumberColumn = 2,
+    kAmountColumn = 3,
+    kGSTColumn = 4,
+    kExpenseColumn = 5,
+    kViewDistColumn = 6,
+    kPaymentForColumn = 7,
+    kEmailColumn = 8,
+  };
+  static constexpr int kColumnCount = 9;
+  static constexpr int kMaxRows = 32767;
+
+  struct Row {
+    std::int16_t id = 0;
+    std::optional<Date> date;
+    std::string number;
+    // Amount cells are empty until written, which is not the same as 0 for the blank-row rule.
+    std::optional<Currency> amount;
+    std::optional<Currency> gst;
+    std::optional<Currency> expense;
+    std::string payment_for;
+    std::string email;
+  };
+
+  int Count() const { return static_cast<int>(rows_.size()); }
+  const Row& At(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+  static bool IsBlank(const Row& row);
+
+  // The first blank row, appending one when there is none. Raises Overflow (source `source`)
+  // when the list is full and nothing is blank; the store is then unchanged.
+  int TargetRowForAdd(const char* source);
+  // Replaces a whole row (its lines stay with its identifier).
+  void Put(int row, Row value);
+  void SetEmail(int row, std::string email) { rows_[static_cast<std::size_t>(row)].email = std::move(email); }
+  void SetPaymentFor(int row, std::string text) { rows_[static_cast<std::size_t>(row)].payment_for = std::move(text); }
+  // Removes one row and its lines.
+  void Remove(int row);
+  // Removes every row `pred` selects, with their lines, in one pass; returns how many went.
+  template <class Pred>
+  int RemoveIf(Pred pred);
+  void Clear();
+
+  // The row's identifier, handing out the next free one when it has none yet; returns whether
+  // it was new. Identifiers of live rows stay unique and non-zero.
+  bool EnsureId(int row);
+  const std::vector<InvoiceLine>* Lines(std::int16_t id) const;
+  void SetLines(std::int16_t id, std::vector<InvoiceLine> lines);
+  std::size_t LineCount() const;
+
+  // Sums over every row, exact.
+  Currency TotalAmount() const;
+  Currency TotalGST() const;
+  Currency TotalExpense() const;
+
+  // GridSource: the grid reads and writes the rows above, bookmarks from 0.
+  int FirstRow() const override { return 0; }
+  int RowCount() const override { return Count(); }
+  int ColumnCount() const override { return kColumnCount; }
+  Variant Cell(int row, int column) const override;
+  void WriteRow(int row, const std::map<int, Variant>& cells) override;
+  int AppendRow(const std::map<int, Variant>& cells) override;
+  void DeleteRow(int row) override { Remove(row); }
+
+ private:
+  void ApplyCell(Row& row, int column, const Variant& value);
+  void Forget(const Row& row);
+  void NoteBlank(int row);
+
+  std::vector<Row> rows_;
+  std::unordered_map<std::int16_t, std::vector<InvoiceLine>> lines_;
+  std::unordered_set<std::int16_t> live_ids_;
+  std::int16_t id_counter_ = 0;
+  // No row below this index is blank; rows from it on may be.
+  std::size_t blank_from_ = 0;
+};
+
+template <class Pred>
+int InvoiceStore::RemoveIf(Pred pred) {
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < rows_.size(); ++i) {
+    if (pred(static_cast<const Row&>(rows_[i]))) {
+      Forget(rows_[i]);
+      continue;
+    }
+    if (kept != i) rows_[kept] = std::move(rows_[i]);
+    ++kept;
+  }
+  const int removed = static_cast<int>(rows_.size() - kept);
+  rows_.resize(kept);
+  blank_from_ = 0;
+  return removed;
+}
+
+}  // namespace zenta
