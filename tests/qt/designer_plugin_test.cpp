@@ -13,11 +13,14 @@ class DesignerPluginTest : public QObject {
     QVERIFY2(instance, qPrintable(loader.errorString()));
     auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(instance);
     QVERIFY(collection);
-    QStringList names;
+    QStringList names, shown;
     for (QDesignerCustomWidgetInterface* widget : collection->customWidgets()) {
       names << widget->name();
-      QVERIFY(!widget->icon().isNull());
+      // The icons are SVG: they draw only when the SVG icon engine is installed.
+      QVERIFY(!widget->icon().pixmap(32).isNull());
       QVERIFY(!widget->toolTip().isEmpty());
+      QVERIFY(!widget->whatsThis().isEmpty());
+      shown << widget->domXml().section("displayname=\"", 1).section('"', 0, 0);
       QVERIFY(widget->domXml().contains(widget->name()));
       std::unique_ptr<QWidget> created(widget->createWidget(nullptr));
       QVERIFY(created);
@@ -25,6 +28,7 @@ class DesignerPluginTest : public QObject {
     }
     QCOMPARE(names, QStringList({"zenta::qt::StdPayment", "zenta::qt::PmtDetails", "zenta::qt::GovtDetails",
                                    "zenta::qt::PaymentDetails"}));
+    QCOMPARE(shown, QStringList({"Payment Amount", "Invoice Details", "Government Remittance", "Payment Details"}));
   }
 };
 

@@ -10,22 +10,22 @@ namespace zenta::qt {
 
 ControlCollection::ControlCollection(QObject* parent) : QObject(parent) {
   widgets_.append(new ControlPlugin(
-      {"zenta::qt::StdPayment", "zenta/qt/std_payment.h", "Payment amount with GST/HST",
+      {"zenta::qt::StdPayment", "Payment Amount", "zenta/qt/std_payment.h", "Payment amount with GST/HST",
        "One payment amount and, for a business payer, the GST/HST part of it. Amounts are typed as cents.",
        ":/zenta/designer/std_payment.svg"},
       [](QWidget* form) { return new StdPayment(form); }, this));
   widgets_.append(new ControlPlugin(
-      {"zenta::qt::PmtDetails", "zenta/qt/pmt_details.h", "One invoice: date, number, amount, GST/HST",
+      {"zenta::qt::PmtDetails", "Invoice Details", "zenta/qt/pmt_details.h", "One invoice: date, number, amount, GST/HST",
        "The date, number or description, amount and GST/HST of the single invoice a payment settles.",
        ":/zenta/designer/pmt_details.svg"},
       [](QWidget* form) { return new PmtDetails(form); }, this));
   widgets_.append(new ControlPlugin(
-      {"zenta::qt::GovtDetails", "zenta/qt/govt_details.h", "Government remittance",
+      {"zenta::qt::GovtDetails", "Government Remittance", "zenta/qt/govt_details.h", "Government remittance",
        "Periods, due date, statement-only flag, comments, amounts and up to 26 lettered line items.",
        ":/zenta/designer/govt_details.svg"},
       [](QWidget* form) { return new GovtDetails(form); }, this));
   widgets_.append(new ControlPlugin(
-      {"zenta::qt::PaymentDetails", "zenta/qt/payment_details.h", "Payment with its G/L distribution",
+      {"zenta::qt::PaymentDetails", "Payment Details", "zenta/qt/payment_details.h", "Payment with its G/L distribution",
        "One payment's amount, GST/HST, net expense and what it is for, split over G/L accounts in the "
        "distribution window.",
        ":/zenta/designer/payment_details.svg"},

@@ -13,10 +13,10 @@ QString ControlPlugin::domXml() const {
   // The object name a new instance gets on the form: the class name without its namespace.
   QString object_name = description_.class_name.section("::", -1);
   object_name[0] = object_name[0].toLower();
-  return QString("<ui language=\"c++\"><widget class=\"%1\" name=\"%2\">"
+  return QString("<ui language=\"c++\" displayname=\"%3\"><widget class=\"%1\" name=\"%2\">"
                  "<property name=\"BusinessMode\"><bool>false</bool></property>"
                  "</widget></ui>")
-      .arg(description_.class_name, object_name);
+      .arg(description_.class_name, object_name, description_.display_name.toHtmlEscaped());
 }
 
 }  // namespace zenta::qt

@@ -14,6 +14,7 @@ class ControlPlugin : public QObject, public QDesignerCustomWidgetInterface {
  public:
   struct Description {
     QString class_name;
+    QString display_name;  // what the widget box lists
     QString header;
     QString tooltip;
     QString whats_this;
