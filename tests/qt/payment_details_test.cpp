@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -108,6 +109,15 @@ class PaymentDetailsTest : public QObject {
     TypeKeys("7");
     QCOMPARE(named, QString("Payment Amount"));
     QCOMPARE(payment_->PaymentAmount(), Money("50"));
+  }
+
+  void frenchCanadaShowsGridAmountsWithTheDecimalComma() {
+    payment_->setLocale(QLocale(QLocale::French, QLocale::Canada));
+    payment_->SetPaymentAmount(Money("1150.5"));
+    auto* view = qobject_cast<QAbstractItemView*>(Grid());
+    QVERIFY(view);
+    QCOMPARE(view->model()->index(0, 0).data().toString(), QString("1150,50"));
+    QCOMPARE(payment_->PaymentAmount(), Money("1150.5"));
   }
 
   void theBusinessLayoutAsksForItsWidth() {

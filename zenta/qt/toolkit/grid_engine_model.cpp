@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QWidget>
 
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/ui_text.h"
@@ -18,11 +19,10 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
   const int column = index.column();
   switch (role) {
     case Qt::DisplayRole:
-      return ToQString(engine_.Appearance(row, column).text);
+      return ShownText(row, column);
     case Qt::AccessibleTextRole:
       // A screen reader announces the cell with its column: "Amount: 45.50".
-      return UiText(engine_.Column(column).caption) + QStringLiteral(": ") +
-             ToQString(engine_.Appearance(row, column).text);
+      return UiText(engine_.Column(column).caption) + QStringLiteral(": ") + ShownText(row, column);
     case Qt::AccessibleDescriptionRole:
       return UiText(engine_.Column(column).caption);
     case Qt::ForegroundRole: {
@@ -41,6 +41,14 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
     default:
       return {};
   }
+}
+
+QString GridEngineModel::ShownText(int row, int column) const {
+  QString text = ToQString(engine_.Appearance(row, column).text);
+  if (engine_.Column(column).kind != platform::ColumnKind::Number) return text;
+  // The view's locale, which a host may set on the control.
+  const auto* view = qobject_cast<const QWidget*>(QObject::parent());
+  return LocalAmountText(text, view ? view->locale() : QLocale());
 }
 
 QVariant GridEngineModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -25,6 +25,9 @@ class GridEngineModel : public QAbstractTableModel {
   void ColumnsChanged() { headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
 
  private:
+  // Amount columns show the view's decimal point.
+  QString ShownText(int row, int column) const;
+
   const platform::GridEngine& engine_;
 };
 

@@ -33,6 +33,13 @@ std::optional<Currency> CurrencyFromQString(const QString& text) {
   }
 }
 
+QString LocalAmountText(const QString& text, const QLocale& locale) {
+  const QString point = locale.decimalPoint();
+  if (point == u"." || !CurrencyFromQString(QString(text).remove(u',').trimmed())) return text;
+  QString shown = text;
+  return shown.replace(u'.', point);
+}
+
 QDate ToQDate(Date date) {
   if (date.IsZero()) return QDate();
   return QDate::fromJulianDay(kJulianDayOfZeroDate + date.DayNumber());

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QDate>
+#include <QLocale>
 #include <QMetaType>
 #include <QPalette>
 #include <QString>
@@ -33,6 +34,10 @@ std::string FromQString(const QString& text);
 QString ToQString(Currency value);
 // Invariant text only ("." is the point); nullopt for anything else or out of range.
 std::optional<Currency> CurrencyFromQString(const QString& text);
+
+// An amount as the payer reads it under `locale`: "12.50" shows as "12,50" in French Canada.
+// Text that is not a plain amount (a caption, "Total") is returned unchanged.
+QString LocalAmountText(const QString& text, const QLocale& locale);
 
 QDate ToQDate(Date date);
 Date FromQDate(const QDate& date);

@@ -42,7 +42,8 @@ class GridFooter : public QWidget {
       const bool right = description.kind == platform::ColumnKind::Number;
       painter.setPen(fore);
       painter.drawText(cell.adjusted(3, 0, -3, 0), (right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter,
-                       UiText(description.footer_text));
+                       right ? LocalAmountText(UiText(description.footer_text), locale())
+                             : UiText(description.footer_text));
     }
   }
 

@@ -127,7 +127,7 @@ bool QtNumberEdit::FinishEdit() {
 
 void QtNumberEdit::Show() {
   QString shown = ToQString(DisplayText());
-  if (!showing_raw_) shown.replace(u'.', locale().decimalPoint());
+  if (!showing_raw_) shown = LocalAmountText(shown, locale());
   if (QLineEdit::text() == shown) return;
   // The validator guards the user's edits; what the program shows always goes in.
   const QValidator* guard = validator();
