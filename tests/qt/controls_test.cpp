@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QApplication>
 #include <QImage>
 #include <QLineEdit>
@@ -15,6 +16,7 @@
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
+#include "zenta/qt/toolkit/qt_number_edit.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
@@ -165,6 +167,23 @@ class ControlsTest : public QObject {
     auto* grid = remittance->findChild<QTableView*>("grItems");
     QVERIFY(grid);
     QCOMPARE(grid->model()->data(grid->model()->index(0, 0), Qt::AccessibleTextRole).toString(), QString("Item: A-01"));
+  }
+
+  void amountsAreReadAsNumbersWithTheirTextStillReadable() {
+    auto* invoice = Place<PmtDetails>();
+    QVERIFY(invoice);
+    invoice->SetInvoiceAmount(1250.5f);
+    QAccessibleInterface* field = QAccessible::queryAccessibleInterface(invoice->Surface().FindQWidget("txtInvoiceAmount"));
+    QVERIFY(field);
+    QCOMPARE(field->role(), QAccessible::EditableText);
+    QCOMPARE(field->text(QAccessible::Name), QString("Invoice Amount"));
+    QVERIFY(field->valueInterface());
+    QCOMPARE(field->valueInterface()->currentValue().toDouble(), 1250.5);
+    QCOMPARE(field->text(QAccessible::Value), QString("1250.50"));
+    QVERIFY(field->textInterface());
+    QCOMPARE(field->textInterface()->text(0, field->textInterface()->characterCount()), QString("1250.50"));
+    dynamic_cast<QtNumberEdit&>(*invoice->Surface().FindQWidget("txtInvoiceAmount")).SetValue(std::nullopt);
+    QVERIFY(!field->valueInterface()->currentValue().isValid());
   }
 
   void punctuationTypedInTheGridIsNeverAnArrowKey() {

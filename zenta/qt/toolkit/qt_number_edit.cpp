@@ -6,6 +6,7 @@
 #include <QValidator>
 
 #include "zenta/platform/keys.h"
+#include "zenta/qt/toolkit/accessible_amount.h"
 
 namespace zenta::qt {
 
@@ -33,6 +34,7 @@ bool IsCellEndingKey(int key) {
 
 QtNumberEdit::QtNumberEdit(QWidget* parent, const platform::WidgetSpec& definition)
     : QLineEdit(parent), QtWidgetBase(*this, definition) {
+  InstallAccessibleAmounts();
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setValidator(new EditFormatValidator(*this));
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) { TypedTextChanged(text); });
