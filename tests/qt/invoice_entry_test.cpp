@@ -1,3 +1,4 @@
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTableView>
@@ -40,6 +41,25 @@ class InvoiceEntryTest : public QObject {
       if (!grid->isColumnHidden(column)) captions << grid->model()->headerData(column, Qt::Horizontal).toString();
     }
     return captions;
+  }
+
+  // Captions that are cut short or columns past the grid's right edge, after the window has
+  // taken the size the control asks for.
+  QStringList ClippedColumns() const {
+    testing::Settle();
+    QStringList clipped;
+    QTableView* grid = Grid();
+    QHeaderView* header = grid->horizontalHeader();
+    for (int column = 0; column < header->count(); ++column) {
+      if (grid->isColumnHidden(column)) continue;
+      const bool cut = header->sectionSize(column) < header->sectionSizeHint(column);
+      const bool outside = grid->columnViewportPosition(column) + grid->columnWidth(column) > grid->viewport()->width();
+      if (cut || outside) clipped << grid->model()->headerData(column, Qt::Horizontal).toString();
+    }
+    // The lines beside the list must not cover it either.
+    const QWidget* lines = invoices_->Surface().FindQWidget("grDistribution");
+    if (lines->isVisible() && lines->geometry().intersects(grid->geometry())) clipped << "grDistribution";
+    return clipped;
   }
 
   QStringList LinesOf(short row) const {
@@ -162,6 +182,7 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(mode.count(), 1);
     QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount",
                                              "Refundable GST/HST", "Net Expense", "View Dist"}));
+    QCOMPARE(ClippedColumns(), QStringList());
     invoices_->SetBusinessMode(false);
     invoices_->SetOtherCurrencyCode("USD");
     invoices_->SetIPCurrency("USD");
@@ -169,6 +190,7 @@ class InvoiceEntryTest : public QObject {
     invoices_->SetupIPGrid();
     QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount (USD)",
                                              "Accounting Rate", "Invoice Amount (CAD)", "View Dist"}));
+    QCOMPARE(ClippedColumns(), QStringList());
   }
 };
 

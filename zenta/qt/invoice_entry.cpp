@@ -1,19 +1,27 @@
 #include "zenta/qt/invoice_entry.h"
 
+#include <QHeaderView>
+#include <QTableView>
 #include <QVariantMap>
+#include <algorithm>
 
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/toolkit/qt_grid_view.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/qt/toolkit/twips_layout.h"
 
 namespace zenta::qt {
 
 namespace {
 
-// The invoice list at its drawn size; the distribution lines beside it start hidden.
-constexpr int kMinWidth = 6120;
+// The invoice list and, beside it, the lines of the current invoice, at their drawn sizes.
+constexpr int kMinWidth = 9060;
 constexpr int kMinHeight = 2415;
+constexpr int kInvoiceGridWidth = 6120;
+constexpr int kGridGap = 60;
+// Room for a grid's frame and vertical scroll bar beside its columns.
+constexpr int kGridChrome = 420;
 
 class InvoiceBinding final : public ControlBinding {
  public:
@@ -41,6 +49,13 @@ InvoiceEntry::InvoiceEntry(QWidget* parent)
     : ControlWidget(parent),
       control_(std::make_unique<zenta::InvoiceEntry>(Surface(), Host(), ApplicationContext())) {
   Attach(std::make_unique<InvoiceBinding>(*control_));
+  Surface().OnResize([this] { FitGrid(); });
+  // Columns shown, hidden or re-captioned (by the mode, SetupIPGrid or loaded properties) are
+  // fitted once the call that changed them has returned: the control pumps events midway.
+  if (auto* view = qobject_cast<QTableView*>(Surface().FindQWidget("grInvoices"))) {
+    connect(view->model(), &QAbstractItemModel::headerDataChanged, this, &InvoiceEntry::FitGrid, Qt::QueuedConnection);
+  }
+  FitGrid();
 }
 
 InvoiceEntry::~InvoiceEntry() {
@@ -53,6 +68,61 @@ InvoiceEntry::~InvoiceEntry() {
   control_.reset();
   DestroySurface();
 }
+
+int InvoiceEntry::ColumnsWidth() const {
+  // A column is as wide as drawn or as its caption needs at the current font, whichever is more.
+  const platform::GridEngine& engine = control_->grInvoices().Engine();
+  const auto* view = qobject_cast<const QTableView*>(Surface().FindQWidget("grInvoices"));
+  const double scale = std::max(0.01, FontScale(Surface(), Qt::Horizontal));
+  int width = kGridChrome;
+  for (int column = 0; column < engine.ColumnCount(); ++column) {
+    if (!engine.Column(column).visible) continue;
+    const int caption = view ? static_cast<int>(Surface().ToTwips(view->horizontalHeader()->sectionSizeHint(column)) / scale) : 0;
+    width += std::max(engine.Column(column).width, caption);
+  }
+  return width;
+}
+
+int InvoiceEntry::NeededWidth() const {
+  const platform::Widget* lines = Surface().Find("grDistribution");
+  return ColumnsWidth() + (lines ? kGridGap + lines->Rect().width : 0);
+}
+
+void InvoiceEntry::FitGrid() {
+  // The surface stretches its children across the control's width; the invoice list is drawn
+  // at least as wide as its columns, so that a wider layout (business or foreign-currency
+  // columns) asks the host for room instead of scrolling or running under the lines beside it.
+  // Both grids take the control's height.
+  if (!control_) return;
+  platform::Grid& grid = control_->grInvoices();
+  platform::Widget* lines = Surface().Find("grDistribution");
+  const double scale = std::max(0.01, FontScale(Surface(), Qt::Vertical));
+  const int height = static_cast<int>(Surface().Height() / scale);
+  platform::TwipsRect rect = grid.Rect();
+  rect.width = std::max(kInvoiceGridWidth, ColumnsWidth());
+  rect.height = std::max(kMinHeight, height - rect.top);
+  grid.SetRect(rect);
+  if (lines) {
+    platform::TwipsRect right = lines->Rect();
+    right.left = rect.left + rect.width + kGridGap;
+    right.top = rect.top;
+    right.height = rect.height;
+    lines->SetRect(right);
+  }
+  const QSize minimum = minimumSizeHint();
+  if (minimumSize() != minimum) {
+    setMinimumSize(minimum);
+    updateGeometry();
+  }
+}
+
+QSize InvoiceEntry::minimumSizeHint() const {
+  const QSize base = ControlWidget::minimumSizeHint();
+  if (!control_) return base;
+  return base.expandedTo(Surface().FittedSize(NeededWidth(), kMinHeight));
+}
+
+QSize InvoiceEntry::sizeHint() const { return minimumSizeHint().expandedTo(ControlWidget::sizeHint()); }
 
 void InvoiceEntry::EmitTyped(platform::RaisedEvent& event) {
   auto row_event = [&event](auto emit_signal) {
@@ -186,7 +256,11 @@ QVariantList InvoiceEntry::PassInvoiceValues(short TheRow) {
   return PassInvoiceValues(TheRow, multiple);
 }
 
-void InvoiceEntry::SetupIPGrid() { Guard([&] { control_->SetupIPGrid(); }); }
+void InvoiceEntry::SetupIPGrid() {
+  Guard([&] { control_->SetupIPGrid(); });
+  FitGrid();
+}
+
 
 #define ZENTA_COLOR_PROPERTY(Name)                                                                   \
   QColor InvoiceEntry::Name() const { return ToQColor(control_->Name(), palette()); }               \

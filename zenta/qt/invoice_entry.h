@@ -76,6 +76,8 @@ class InvoiceEntry : public ControlWidget {
   QVariantList PassInvoiceValues(short TheRow, bool& bMultiple);
   Q_INVOKABLE QVariantList PassInvoiceValues(short TheRow);
   Q_INVOKABLE void SetupIPGrid();
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
   QColor BackColorGridHeader() const;
   void SetBackColorGridHeader(const QColor& color);
@@ -126,6 +128,11 @@ class InvoiceEntry : public ControlWidget {
   void EmitTyped(platform::RaisedEvent& event) override;
 
  private:
+  // Twips the invoice list's visible columns need, and the control with the lines beside it.
+  int ColumnsWidth() const;
+  int NeededWidth() const;
+  void FitGrid();
+
   std::unique_ptr<zenta::InvoiceEntry> control_;
 };
 
