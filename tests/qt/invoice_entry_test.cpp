@@ -1,7 +1,9 @@
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -173,6 +175,32 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(errors.count(), 1);
     QCOMPARE(errors.front().at(0).value<quint32>(), 0x800403E8u);
     QCOMPARE(errors.front().at(2).toString(), QString("The row 2 does not exist"));
+  }
+
+  void coloursModeAndAccountPersistAndReachTheGrid() {
+    QCOMPARE(invoices_->RowColorOdd(), QColor(255, 255, 255));
+    QVERIFY(!invoices_->BusinessMode());
+    QTemporaryDir dir;
+    QSettings settings(dir.filePath("host.ini"), QSettings::IniFormat);
+    {
+      InvoiceEntry saved;
+      saved.SetRowColorEven(QColor(200, 220, 240));
+      saved.SetBusinessMode(true);
+      saved.SetDefaultGLAccount("5100");
+      saved.SaveProperties(&settings, "InvoiceEntry1");
+    }
+    QSignalSpy even(invoices_, &InvoiceEntry::RowColorEvenChanged);
+    invoices_->LoadProperties(&settings, "InvoiceEntry1");
+    QCOMPARE(even.count(), 1);
+    QCOMPARE(invoices_->RowColorEven(), QColor(200, 220, 240));
+    QVERIFY(invoices_->BusinessMode());
+    QCOMPARE(invoices_->DefaultGLAccount(), QString("5100"));
+    invoices_->AddInvoice(QDate::currentDate(), "A-1", Money("5"));
+    invoices_->AddInvoice(QDate::currentDate(), "A-2", Money("6"));
+    QAbstractItemModel* model = Grid()->model();
+    const QList<QVariant> backs{model->index(0, kNumber).data(Qt::BackgroundRole),
+                                model->index(1, kNumber).data(Qt::BackgroundRole)};
+    QVERIFY(backs.contains(QVariant(QColor(200, 220, 240))));
   }
 
   void theCaptionsFollowBusinessAndForeignMode() {
