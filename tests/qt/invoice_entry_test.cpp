@@ -175,6 +175,9 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(errors.count(), 1);
     QCOMPARE(errors.front().at(0).value<quint32>(), 0x800403E8u);
     QCOMPARE(errors.front().at(2).toString(), QString("The row 2 does not exist"));
+    invoices_->SetInvoiceValues(1, QString("not an invoice"));
+    QCOMPARE(errors.count(), 2);
+    QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString("A-1"));
   }
 
   void coloursModeAndAccountPersistAndReachTheGrid() {

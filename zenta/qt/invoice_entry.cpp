@@ -200,6 +200,10 @@ QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
   return map;
 }
 
+void InvoiceEntry::SetInvoiceValues(short TheRow, const QVariant& value) {
+  Guard([&] { control_->SetInvoiceValues(TheRow, FromQVariant(value)); });
+}
+
 void InvoiceEntry::DeleteCurrentRow() { Guard([&] { control_->DeleteCurrentRow(); }); }
 
 bool InvoiceEntry::AddInvoice(const QDate& InvoiceDate, const QString& InvoiceNo, Currency InvoiceAmount,

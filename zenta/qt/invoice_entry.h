@@ -57,6 +57,9 @@ class InvoiceEntry : public ControlWidget {
   // PaymentFor, EmailFilename and Distributions (GLAccount, Amount maps in line order); an empty
   // map for a row that does not exist.
   Q_INVOKABLE QVariantMap InvoiceValues(short TheRow) const;
+  // Takes a zenta::ObjectRef to a clsInvoice and discards it: the list cannot be changed this
+  // way. Anything else is reported as a type mismatch.
+  Q_INVOKABLE void SetInvoiceValues(short TheRow, const QVariant& value);
   Q_INVOKABLE void DeleteCurrentRow();
   // Always false, also when the invoice was stored: hosts must not read it as a failure. GST is
   // an invalid QVariant or a zenta::Currency.
