@@ -12,6 +12,7 @@
 
 #include "apps/demo/demo_window.h"
 #include "zenta/qt/govt_details.h"
+#include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/records/cls_distributions.h"
@@ -138,6 +139,62 @@ void DemoSession::PlayLockedFields() {
   details.SetLockFields(false);
 }
 
+void DemoSession::PlayInvoiceList() {
+  // A business payer lists three invoices: the first typed and split over two accounts, the
+  // others added by the host as from a scanned statement, not yet split.
+  window_.ShowInvoicePage();
+  Settle();
+  auto& invoices = window_.Invoices();
+  QWidget* grid = invoices.Surface().FindQWidget("grInvoices");
+  const QDate day = QDate::currentDate().addDays(-3);  // recent: no date question
+  ClickCell(grid, 0, 1);
+  Type(day.toString("yyyy/MM/dd"));
+  Press(Qt::Key_Tab);
+  Type("Hydro, October");
+  Press(Qt::Key_Tab);
+  Type("11300");
+  Press(Qt::Key_Tab);
+  Type("1300");
+  // The payer moves on out of the list (the row is stored and its net expense worked out),
+  // then comes back to split it with View Dist.
+  window_.BusinessSwitch().setFocus(Qt::TabFocusReason);
+  Settle();
+  qt::testing::DialogScript split([this](qt::QtDialogSurface& dialog) {
+    QWidget* lines = dialog.FindQWidget("grTempDistribution");
+    ClickCell(lines, 0, 2);
+    Type("6000");
+    Press(Qt::Key_Tab);
+    ClickCell(lines, 4, 1);
+    Type("5200");
+    Press(Qt::Key_Tab);
+    ShootWidget(dialog, "11-invoice-split.png");
+    Click(dialog.FindQWidget("cmdGLAccept"));
+  });
+  ClickCell(grid, 0, 6);  // View Dist
+  Settle();
+  CheckOpened(split, "The typed invoice");
+  invoices.AddInvoice(day.addDays(1), "Office supplies", Currency::FromText("45.20"),
+                      QVariant::fromValue(Currency::FromText("5.20")));
+  invoices.AddInvoice(day.addDays(2), "Courier", Currency::FromText("18.75"));
+  Settle();
+  Shoot("12-invoice-list.png");
+
+  notes_ << QString("InvoiceEntry1.InvoiceCount = %1, TotalAmount = %2, TotalGST = %3, TotalExpense = %4")
+                .arg(invoices.InvoiceCount())
+                .arg(qt::ToQString(invoices.TotalAmount()), qt::ToQString(invoices.TotalGST()),
+                     qt::ToQString(invoices.TotalExpense()));
+  for (const QVariant& line : invoices.InvoiceValues(1).value("Distributions").toList()) {
+    const QVariantMap map = line.toMap();
+    notes_ << QString("InvoiceEntry1.InvoiceValues(1) line: %1 %2")
+                  .arg(map.value("GLAccount").toString(), qt::ToQString(map.value("Amount").value<Currency>()));
+  }
+  QString reason;
+  bool incomplete = false;
+  const bool valid = invoices.IsDataValid(reason, incomplete);
+  notes_ << QString("InvoiceEntry1.IsDataValid = %1 (\"%2\", Incomplete = %3)")
+                .arg(valid ? "True" : "False", reason, incomplete ? "True" : "False");
+}
+
 QStringList DemoSession::Play() {
   Settle();
   Shoot("01-empty-screen.png");
@@ -187,6 +244,7 @@ QStringList DemoSession::Play() {
   PlayPaymentSplit();
   PlaySplitWithRefusal();
   PlayLockedFields();
+  PlayInvoiceList();
   return written_;
 }
 

@@ -42,6 +42,7 @@ class DemoSession {
   void PlayPaymentSplit();
   void PlaySplitWithRefusal();
   void PlayLockedFields();
+  void PlayInvoiceList();
 
   DemoWindow& window_;
   QDir screenshots_;

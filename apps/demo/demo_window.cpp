@@ -7,10 +7,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include "zenta/qt/govt_details.h"
+#include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
@@ -37,7 +39,7 @@ QString DateText(const QDate& date) { return date.isNull() ? "(no date)" : date.
 
 DemoWindow::DemoWindow()
     : payment_(new qt::StdPayment), invoice_(new qt::PmtDetails), remittance_(new qt::GovtDetails),
-      details_(new qt::PaymentDetails),
+      details_(new qt::PaymentDetails), invoices_(new qt::InvoiceEntry), pages_(new QTabWidget),
       business_(new QCheckBox("Business payer: states GST/HST")), values_(new QPlainTextEdit),
       events_(new QListWidget) {
   setWindowTitle("Zenta Data Entry Controls — bill payment demo");
@@ -46,6 +48,8 @@ DemoWindow::DemoWindow()
   remittance_->setObjectName("GovtDetails1");
   details_->setObjectName("PaymentDetails1");
   details_->SetDefaultGLAccount("5100");
+  invoices_->setObjectName("InvoiceEntry1");
+  invoices_->SetDefaultGLAccount("5100");
 
   auto* controls = new QGridLayout;
   controls->addWidget(Framed("Standard payment", payment_, "Type amounts as cents: 2500 is 25.00."), 0, 0);
@@ -64,9 +68,19 @@ DemoWindow::DemoWindow()
   side->addWidget(new QLabel("Events the host received"));
   side->addWidget(events_, 2);
 
+  auto* payment_page = new QWidget;
+  payment_page->setLayout(controls);
+  pages_->addTab(payment_page, "Payment");
+  auto* invoice_page = new QWidget;
+  auto* invoice_layout = new QVBoxLayout(invoice_page);
+  invoice_layout->addWidget(Framed("Invoices this payment settles", invoices_,
+                                   "One row an invoice; Tab past the last amount, or View Dist, to split it over "
+                                   "G/L accounts. Ctrl+Delete deletes a row."));
+  pages_->addTab(invoice_page, "Invoices");
+
   auto* central = new QWidget;
   auto* layout = new QHBoxLayout(central);
-  layout->addLayout(controls, 3);
+  layout->addWidget(pages_, 3);
   layout->addLayout(side, 2);
   setCentralWidget(central);
 
@@ -75,6 +89,7 @@ DemoWindow::DemoWindow()
     invoice_->SetBusinessMode(on);
     remittance_->SetBusinessMode(on);
     details_->SetBusinessMode(on);
+    invoices_->SetBusinessMode(on);
     RefreshValues();
   });
   auto log = [this](const QString& control) {
@@ -84,6 +99,7 @@ DemoWindow::DemoWindow()
   connect(invoice_, &qt::ControlWidget::EventRaised, this, log("PmtDetails1"));
   connect(remittance_, &qt::ControlWidget::EventRaised, this, log("GovtDetails1"));
   connect(details_, &qt::ControlWidget::EventRaised, this, log("PaymentDetails1"));
+  connect(invoices_, &qt::ControlWidget::EventRaised, this, log("InvoiceEntry1"));
   // Typing changes values without events; a host screen polls what it shows.
   auto* poll = new QTimer(this);
   connect(poll, &QTimer::timeout, this, [this] { RefreshValues(); });
@@ -125,6 +141,11 @@ QStringList DemoWindow::HostValues() const {
         << QString("PaymentDetails1.NetExpense = %1").arg(qt::ToQString(details_->NetExpense()))
         << QString("PaymentDetails1.PaymentFor = \"%1\"").arg(details_->PaymentFor())
         << QString("PaymentDetails1.LockFields = %1").arg(details_->LockFields() ? "True" : "False");
+  lines << QString("InvoiceEntry1.RowCount = %1").arg(invoices_->RowCount())
+        << QString("InvoiceEntry1.InvoiceCount = %1").arg(invoices_->InvoiceCount())
+        << QString("InvoiceEntry1.TotalAmount = %1").arg(qt::ToQString(invoices_->TotalAmount()))
+        << QString("InvoiceEntry1.TotalGST = %1").arg(qt::ToQString(invoices_->TotalGST()))
+        << QString("InvoiceEntry1.TotalExpense = %1").arg(qt::ToQString(invoices_->TotalExpense()));
   int position = 0;
   for (const QVariant& line : details_->Distributions()) {
     const QVariantMap map = line.toMap();
@@ -141,6 +162,8 @@ QStringList DemoWindow::HostValues() const {
   }
   return lines;
 }
+
+void DemoWindow::ShowInvoicePage() { pages_->setCurrentIndex(1); }
 
 QStringList DemoWindow::EventLog() const {
   QStringList lines;

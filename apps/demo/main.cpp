@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
     zenta::qt::InstallTranslator(QLocale(name));
   }
   zenta::demo::DemoWindow window;
-  window.resize(1280, 760);
+  window.resize(1280, 800);
   window.show();
   if (!session) return app.exec();
 
@@ -69,5 +69,5 @@ int main(int argc, char** argv) {
   out << "\nEvents the host received:\n";
   for (const QString& line : window.EventLog()) out << "  " << line << "\n";
   out.flush();
-  return played.Complete() && shots.size() == 10 ? EXIT_SUCCESS : EXIT_FAILURE;
+  return played.Complete() && shots.size() == 12 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

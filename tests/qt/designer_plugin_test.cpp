@@ -27,8 +27,9 @@ class DesignerPluginTest : public QObject {
       QVERIFY(created->minimumSizeHint().isValid());
     }
     QCOMPARE(names, QStringList({"zenta::qt::StdPayment", "zenta::qt::PmtDetails", "zenta::qt::GovtDetails",
-                                   "zenta::qt::PaymentDetails"}));
-    QCOMPARE(shown, QStringList({"Payment Amount", "Invoice Details", "Government Remittance", "Payment Details"}));
+                                   "zenta::qt::PaymentDetails", "zenta::qt::InvoiceEntry"}));
+    QCOMPARE(shown, QStringList({"Payment Amount", "Invoice Details", "Government Remittance", "Payment Details",
+                                  "Invoice Entry"}));
   }
 };
 

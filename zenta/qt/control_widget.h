@@ -87,6 +87,8 @@ class ControlWidget : public QWidget {
   // Deletes the child widgets while the control that handles their notifications still exists;
   // subclasses call it first in their destructor.
   void DestroySurface();
+  // Stops reading the control, for a subclass whose control must go before the surface.
+  void DetachControl() { control_.reset(); }
   // Emits the typed signal for an event the control raised.
   virtual void EmitTyped(platform::RaisedEvent& event) = 0;
 

@@ -3,11 +3,12 @@ add_library(zenta_qt STATIC
   application_context.cpp
   control_widget.cpp
   govt_details.cpp
+  invoice_entry.cpp
   payment_details.cpp
   pmt_details.cpp
   translator.cpp
   std_payment.cpp)
-target_link_libraries(zenta_qt PUBLIC zenta_qt_toolkit zenta_controls_simple zenta_payment_details Qt6::Widgets)
+target_link_libraries(zenta_qt PUBLIC zenta_qt_toolkit zenta_controls_simple zenta_payment_details zenta_invoice_entry Qt6::Widgets)
 zenta_warnings(zenta_qt)
 
 if(TARGET Qt6::UiPlugin)

@@ -198,6 +198,20 @@ class QtGridViewTest : public QObject {
     QVERIFY(view_->viewport()->rect().intersects(CellRect(32766, 0)));
     QCOMPARE(view_->model()->index(32766, 1).data().toString(), QString("5.00"));
   }
+
+  void pageKeysMoveTheCurrentRowByTheRowsInViewAndStopAtTheEnds() {
+    Bind(100);
+    Click(0, 0);
+    const int page = view_->viewport()->height() / view_->verticalHeader()->defaultSectionSize() - 1;
+    QVERIFY(page > 1);
+    testing::Press(Qt::Key_PageDown);
+    QCOMPARE(Engine().CurrentRow(), std::optional<int>(page));
+    QVERIFY(view_->viewport()->rect().intersects(CellRect(page, 0)));
+    for (int i = 0; i < 100; ++i) testing::Press(Qt::Key_PageDown);
+    QCOMPARE(Engine().CurrentRow(), std::optional<int>(99));
+    testing::Press(Qt::Key_PageUp);
+    QCOMPARE(Engine().CurrentRow(), std::optional<int>(99 - page));
+  }
 };
 
 }  // namespace zenta::qt

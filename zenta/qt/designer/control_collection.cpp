@@ -2,6 +2,7 @@
 
 #include "zenta/qt/designer/control_plugin.h"
 #include "zenta/qt/govt_details.h"
+#include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
@@ -30,6 +31,12 @@ ControlCollection::ControlCollection(QObject* parent) : QObject(parent) {
        "distribution window.",
        ":/zenta/designer/payment_details.svg"},
       [](QWidget* form) { return new PaymentDetails(form); }, this));
+  widgets_.append(new ControlPlugin(
+      {"zenta::qt::InvoiceEntry", "Invoice Entry", "zenta/qt/invoice_entry.h", "A list of invoices with their G/L distributions",
+       "The invoices one payment settles: date, number or description and amount of each, with GST/HST and net "
+       "expense for a business payer, each split over G/L accounts in the distribution window.",
+       ":/zenta/designer/invoice_entry.svg"},
+      [](QWidget* form) { return new InvoiceEntry(form); }, this));
 }
 
 }  // namespace zenta::qt

@@ -52,6 +52,8 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void ApplyColors();
   void FitColumns();
   bool HasFooter() const;
+  // PageUp and PageDown the engine leaves alone: the current row moves by a screenful.
+  void PageBy(int pages);
 
   GridEngineModel* model_;
   GridFooter* footer_ = nullptr;

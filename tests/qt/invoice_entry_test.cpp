@@ -1,0 +1,231 @@
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "zenta/qt/invoice_entry.h"
+#include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_surface.h"
+
+namespace zenta::qt {
+
+using testing::ClickCell;
+using testing::DialogScript;
+using testing::PressKey;
+using testing::TypeKeys;
+
+// The invoice list on Qt, driven by real keys and clicks: the rules are tested on the headless
+// toolkit; these check what only Qt can break (keys reaching the grid's engine, the modal window
+// from a posted call, by-reference event arguments, message boxes, header captions).
+class InvoiceEntryTest : public QObject {
+  Q_OBJECT
+
+ private:
+  enum Column { kDate = 1, kNumber = 2, kAmount = 3 };
+
+  std::unique_ptr<QWidget> window_;
+  InvoiceEntry* invoices_ = nullptr;
+  QLineEdit* next_field_ = nullptr;
+
+  QTableView* Grid() const { return qobject_cast<QTableView*>(invoices_->Surface().FindQWidget("grInvoices")); }
+  static Currency Money(const char* text) { return Currency::FromText(text); }
+  // Today's date needs no confirmation, whatever day the test runs.
+  static QString Today() { return QDate::currentDate().toString("yyyy/MM/dd"); }
+
+  QStringList VisibleCaptions() const {
+    QStringList captions;
+    QTableView* grid = Grid();
+    for (int column = 0; column < grid->model()->columnCount(); ++column) {
+      if (!grid->isColumnHidden(column)) captions << grid->model()->headerData(column, Qt::Horizontal).toString();
+    }
+    return captions;
+  }
+
+  // Captions that are cut short or columns past the grid's right edge, after the window has
+  // taken the size the control asks for.
+  QStringList ClippedColumns() const {
+    testing::Settle();
+    QStringList clipped;
+    QTableView* grid = Grid();
+    QHeaderView* header = grid->horizontalHeader();
+    for (int column = 0; column < header->count(); ++column) {
+      if (grid->isColumnHidden(column)) continue;
+      const bool cut = header->sectionSize(column) < header->sectionSizeHint(column);
+      const bool outside = grid->columnViewportPosition(column) + grid->columnWidth(column) > grid->viewport()->width();
+      if (cut || outside) clipped << grid->model()->headerData(column, Qt::Horizontal).toString();
+    }
+    // The lines beside the list must not cover it either.
+    const QWidget* lines = invoices_->Surface().FindQWidget("grDistribution");
+    if (lines->isVisible() && lines->geometry().intersects(grid->geometry())) clipped << "grDistribution";
+    return clipped;
+  }
+
+  QStringList LinesOf(short row) const {
+    QStringList lines;
+    for (const QVariant& line : invoices_->InvoiceValues(row).value("Distributions").toList()) {
+      const QVariantMap map = line.toMap();
+      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
+    }
+    return lines;
+  }
+
+ private slots:
+  void init() {
+    window_ = std::make_unique<QWidget>();
+    auto* layout = new QVBoxLayout(window_.get());
+    invoices_ = new InvoiceEntry;
+    next_field_ = new QLineEdit;
+    layout->addWidget(invoices_);
+    layout->addWidget(next_field_);
+    window_->show();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+  }
+
+  void cleanup() { window_.reset(); }
+
+  void aRowTypedByKeysIsStoredWithItsAmountInCents() {
+    QSignalSpy recalculate(invoices_, &InvoiceEntry::Recalculate);
+    QSignalSpy totals(invoices_, &InvoiceEntry::TotalsChanged);
+    QVERIFY(ClickCell(Grid(), 0, kDate));
+    TypeKeys(Today());
+    PressKey(Qt::Key_Tab);
+    TypeKeys("INV-1");
+    PressKey(Qt::Key_Tab);
+    TypeKeys("1250");
+    next_field_->setFocus(Qt::TabFocusReason);
+    testing::Settle();
+    QCOMPARE(invoices_->RowCount(), short{1});
+    const QVariantMap invoice = invoices_->InvoiceValues(1);
+    QCOMPARE(invoice.value("InvoiceDate").toDate(), QDate::currentDate());
+    QCOMPARE(invoice.value("InvoiceNo").toString(), QString("INV-1"));
+    QCOMPARE(invoice.value("InvoiceAmount").value<Currency>(), Money("12.50"));
+    QCOMPARE(invoices_->TotalAmount(), Money("12.50"));
+    QVERIFY(recalculate.count() >= 1);
+    QVERIFY(totals.count() >= 1);
+  }
+
+  void tabPastTheLastAmountOpensTheWindowAndAnnouncesTheFirstSplit() {
+    invoices_->SetDefaultGLAccount("5100");
+    QList<short> announced;
+    connect(invoices_, &InvoiceEntry::FirstDistributionEntered, this, [&announced](short& TheRow) { announced << TheRow; });
+    DialogScript split([](QtDialogSurface& dialog) {
+      QWidget* lines = dialog.FindQWidget("grTempDistribution");
+      QVERIFY(ClickCell(lines, 0, 2));
+      TypeKeys("6000");
+      PressKey(Qt::Key_Tab);
+      QVERIFY(ClickCell(lines, 4, 1));
+      TypeKeys("5200");
+      PressKey(Qt::Key_Tab);
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+    });
+    QVERIFY(ClickCell(Grid(), 0, kDate));
+    TypeKeys(Today());
+    PressKey(Qt::Key_Tab);
+    TypeKeys("INV-2");
+    PressKey(Qt::Key_Tab);
+    TypeKeys("10000");
+    PressKey(Qt::Key_Tab);
+    testing::Settle();
+    QVERIFY(split.Ran());
+    QCOMPARE(announced, QList<short>{1});
+    QCOMPARE(LinesOf(1), (QStringList{"5100 60", "5200 40"}));
+    QString reason = "stale";
+    bool incomplete = true;
+    QVERIFY2(invoices_->IsDataValid(reason, incomplete), qPrintable(reason));
+    QCOMPARE(reason, QString());
+  }
+
+  void aHostRefusesADuplicateNumberThroughTheTypedSignal() {
+    invoices_->AddInvoice(QDate::currentDate(), "A-100", Money("5"));
+    QString seen;
+    connect(invoices_, &InvoiceEntry::CheckDuplicateInvoices, this, [&seen](QString& strInvoiceNo, bool& bolCancel) {
+      seen = strInvoiceNo;
+      bolCancel = strInvoiceNo == "A-100";
+    });
+    QVERIFY(ClickCell(Grid(), 1, kNumber));
+    TypeKeys("A-100");
+    PressKey(Qt::Key_Tab);
+    QCOMPARE(seen, QString("A-100"));
+    QCOMPARE(invoices_->InvoiceCount(), short{1});
+    QString reason;
+    bool incomplete = false;
+    QVERIFY(!invoices_->IsDataValid(reason, incomplete));
+  }
+
+  void deletingAskedOfThePayerKeepsTheRowOnNoAndTheHostsDeletionAsksNothing() {
+    invoices_->AddInvoice(QDate::currentDate(), "A-1", Money("5"));
+    invoices_->AddInvoice(QDate::currentDate(), "A-2", Money("7"));
+    QVERIFY(ClickCell(Grid(), 1, kNumber));
+    QString asked;
+    testing::AnswerNextMessage(QMessageBox::No, [&asked](QMessageBox& box) { asked = box.text(); });
+    PressKey(Qt::Key_Delete, Qt::ControlModifier);
+    QCOMPARE(asked, QString("Are you sure you want to delete this invoice?"));
+    QCOMPARE(invoices_->RowCount(), short{2});
+    QCOMPARE(invoices_->CurrentRow(), short{2});
+    invoices_->DeleteCurrentRow();
+    QCOMPARE(invoices_->RowCount(), short{1});
+    QCOMPARE(invoices_->TotalAmount(), Money("5"));
+    // A missing row reaches the host as an error, not an exception.
+    QSignalSpy errors(invoices_, &ControlWidget::HostErrorRaised);
+    QVERIFY(invoices_->InvoiceValues(2).isEmpty());
+    QCOMPARE(errors.count(), 1);
+    QCOMPARE(errors.front().at(0).value<quint32>(), 0x800403E8u);
+    QCOMPARE(errors.front().at(2).toString(), QString("The row 2 does not exist"));
+    invoices_->SetInvoiceValues(1, QString("not an invoice"));
+    QCOMPARE(errors.count(), 2);
+    QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString("A-1"));
+  }
+
+  void coloursModeAndAccountPersistAndReachTheGrid() {
+    QCOMPARE(invoices_->RowColorOdd(), QColor(255, 255, 255));
+    QVERIFY(!invoices_->BusinessMode());
+    QTemporaryDir dir;
+    QSettings settings(dir.filePath("host.ini"), QSettings::IniFormat);
+    {
+      InvoiceEntry saved;
+      saved.SetRowColorEven(QColor(200, 220, 240));
+      saved.SetBusinessMode(true);
+      saved.SetDefaultGLAccount("5100");
+      saved.SaveProperties(&settings, "InvoiceEntry1");
+    }
+    QSignalSpy even(invoices_, &InvoiceEntry::RowColorEvenChanged);
+    invoices_->LoadProperties(&settings, "InvoiceEntry1");
+    QCOMPARE(even.count(), 1);
+    QCOMPARE(invoices_->RowColorEven(), QColor(200, 220, 240));
+    QVERIFY(invoices_->BusinessMode());
+    QCOMPARE(invoices_->DefaultGLAccount(), QString("5100"));
+    invoices_->AddInvoice(QDate::currentDate(), "A-1", Money("5"));
+    invoices_->AddInvoice(QDate::currentDate(), "A-2", Money("6"));
+    QAbstractItemModel* model = Grid()->model();
+    const QList<QVariant> backs{model->index(0, kNumber).data(Qt::BackgroundRole),
+                                model->index(1, kNumber).data(Qt::BackgroundRole)};
+    QVERIFY(backs.contains(QVariant(QColor(200, 220, 240))));
+  }
+
+  void theCaptionsFollowBusinessAndForeignMode() {
+    QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount", "View Dist"}));
+    QSignalSpy mode(invoices_, &ControlWidget::BusinessModeChanged);
+    invoices_->setProperty("BusinessMode", true);
+    QCOMPARE(mode.count(), 1);
+    QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount",
+                                             "Refundable GST/HST", "Net Expense", "View Dist"}));
+    QCOMPARE(ClippedColumns(), QStringList());
+    invoices_->SetBusinessMode(false);
+    invoices_->SetOtherCurrencyCode("USD");
+    invoices_->SetIPCurrency("USD");
+    invoices_->SetCurrencyRate(1.25f);
+    invoices_->SetupIPGrid();
+    QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount (USD)",
+                                             "Accounting Rate", "Invoice Amount (CAD)", "View Dist"}));
+    QCOMPARE(ClippedColumns(), QStringList());
+  }
+};
+
+}  // namespace zenta::qt
+
+QTEST_MAIN(zenta::qt::InvoiceEntryTest)
+#include "invoice_entry_test.moc"

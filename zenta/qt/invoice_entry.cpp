@@ -1,0 +1,296 @@
+#include "zenta/qt/invoice_entry.h"
+
+#include <QHeaderView>
+#include <QTableView>
+#include <QVariantMap>
+#include <algorithm>
+
+#include "zenta/qt/application_context.h"
+#include "zenta/qt/toolkit/qt_grid_view.h"
+#include "zenta/qt/toolkit/qt_host.h"
+#include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/qt/toolkit/twips_layout.h"
+
+namespace zenta::qt {
+
+namespace {
+
+// The invoice list and, beside it, the lines of the current invoice, at their drawn sizes.
+constexpr int kMinWidth = 9060;
+constexpr int kMinHeight = 2415;
+constexpr int kInvoiceGridWidth = 6120;
+constexpr int kGridGap = 60;
+// Room for a grid's frame and vertical scroll bar beside its columns.
+constexpr int kGridChrome = 420;
+
+class InvoiceBinding final : public ControlBinding {
+ public:
+  explicit InvoiceBinding(zenta::InvoiceEntry& control) : c_(control) {}
+  void ReadProperties(const platform::PropertyBag& bag) override { c_.ReadProperties(bag); }
+  void WriteProperties(platform::PropertyBag& bag) const override { c_.WriteProperties(bag); }
+  int MinimumWidth() const override { return kMinWidth; }
+  int MinimumHeight() const override { return kMinHeight; }
+  OleColor BackColor() const override { return c_.BackColor(); }
+  void SetBackColor(OleColor color) override { c_.SetBackColor(color); }
+  bool BusinessMode() const override { return c_.BusinessMode(); }
+  void SetBusinessMode(bool on) override { c_.SetBusinessMode(on); }
+  OleColor BackColorTitle() const override { return c_.BackColorTitle(); }
+  void SetBackColorTitle(OleColor color) override { c_.SetBackColorTitle(color); }
+  bool Enabled() const override { return c_.Enabled(); }
+  void SetEnabled(bool enabled) override { c_.SetEnabled(enabled); }
+
+ private:
+  zenta::InvoiceEntry& c_;
+};
+
+}  // namespace
+
+InvoiceEntry::InvoiceEntry(QWidget* parent)
+    : ControlWidget(parent),
+      control_(std::make_unique<zenta::InvoiceEntry>(Surface(), Host(), ApplicationContext())) {
+  Attach(std::make_unique<InvoiceBinding>(*control_));
+  Surface().OnResize([this] { FitGrid(); });
+  // Columns shown, hidden or re-captioned (by the mode, SetupIPGrid or loaded properties) are
+  // fitted once the call that changed them has returned: the control pumps events midway.
+  if (auto* view = qobject_cast<QTableView*>(Surface().FindQWidget("grInvoices"))) {
+    connect(view->model(), &QAbstractItemModel::headerDataChanged, this, &InvoiceEntry::FitGrid, Qt::QueuedConnection);
+  }
+  FitGrid();
+}
+
+InvoiceEntry::~InvoiceEntry() {
+  // The control lets go of its grid when it is destroyed, so it goes before the surface; the
+  // grids forget its handlers first, so nothing they do while being deleted reaches it.
+  for (const char* name : {"grInvoices", "grDistribution"}) {
+    if (auto* grid = dynamic_cast<QtGridView*>(Surface().FindQWidget(name))) grid->Engine().Handlers() = {};
+  }
+  DetachControl();
+  control_.reset();
+  DestroySurface();
+}
+
+int InvoiceEntry::ColumnsWidth() const {
+  // A column is as wide as drawn or as its caption needs at the current font, whichever is more.
+  const platform::GridEngine& engine = control_->grInvoices().Engine();
+  const auto* view = qobject_cast<const QTableView*>(Surface().FindQWidget("grInvoices"));
+  const double scale = std::max(0.01, FontScale(Surface(), Qt::Horizontal));
+  int width = kGridChrome;
+  for (int column = 0; column < engine.ColumnCount(); ++column) {
+    if (!engine.Column(column).visible) continue;
+    const int caption = view ? static_cast<int>(Surface().ToTwips(view->horizontalHeader()->sectionSizeHint(column)) / scale) : 0;
+    width += std::max(engine.Column(column).width, caption);
+  }
+  return width;
+}
+
+int InvoiceEntry::NeededWidth() const {
+  const platform::Widget* lines = Surface().Find("grDistribution");
+  return ColumnsWidth() + (lines ? kGridGap + lines->Rect().width : 0);
+}
+
+void InvoiceEntry::FitGrid() {
+  // The surface stretches its children across the control's width; the invoice list is drawn
+  // at least as wide as its columns, so that a wider layout (business or foreign-currency
+  // columns) asks the host for room instead of scrolling or running under the lines beside it.
+  // Both grids take the control's height.
+  if (!control_) return;
+  platform::Grid& grid = control_->grInvoices();
+  platform::Widget* lines = Surface().Find("grDistribution");
+  const double scale = std::max(0.01, FontScale(Surface(), Qt::Vertical));
+  const int height = static_cast<int>(Surface().Height() / scale);
+  platform::TwipsRect rect = grid.Rect();
+  rect.width = std::max(kInvoiceGridWidth, ColumnsWidth());
+  rect.height = std::max(kMinHeight, height - rect.top);
+  grid.SetRect(rect);
+  if (lines) {
+    platform::TwipsRect right = lines->Rect();
+    right.left = rect.left + rect.width + kGridGap;
+    right.top = rect.top;
+    right.height = rect.height;
+    lines->SetRect(right);
+  }
+  const QSize minimum = minimumSizeHint();
+  if (minimumSize() != minimum) {
+    setMinimumSize(minimum);
+    updateGeometry();
+  }
+}
+
+QSize InvoiceEntry::minimumSizeHint() const {
+  const QSize base = ControlWidget::minimumSizeHint();
+  if (!control_) return base;
+  return base.expandedTo(Surface().FittedSize(NeededWidth(), kMinHeight));
+}
+
+QSize InvoiceEntry::sizeHint() const { return minimumSizeHint().expandedTo(ControlWidget::sizeHint()); }
+
+void InvoiceEntry::EmitTyped(platform::RaisedEvent& event) {
+  auto row_event = [&event](auto emit_signal) {
+    short row = event.args.empty() ? short{0} : event.args.front().ToInteger();
+    emit_signal(row);
+    if (!event.args.empty()) event.args.front() = Variant(std::int16_t{row});
+  };
+  const bool two = event.args.size() == 2;
+  switch (event.number) {
+    case InvoiceEvents::kRecalculate: emit Recalculate(); break;
+    case InvoiceEvents::kFirstDistributionEntered:
+      row_event([this](short& row) { emit FirstDistributionEntered(row); });
+      break;
+    case InvoiceEvents::kDistributionEntered: row_event([this](short& row) { emit DistributionEntered(row); }); break;
+    case InvoiceEvents::kCheckDuplicateInvoices: {
+      QString number = two ? ToQString(event.args[0].ToString()) : QString();
+      bool cancel = two && event.args[1].ToBool();
+      emit CheckDuplicateInvoices(number, cancel);
+      if (two) event.args = {Variant(FromQString(number)), Variant(cancel)};
+      break;
+    }
+    case InvoiceEvents::kValidateInvoiceAmountLimit: {
+      Currency amount = two ? event.args[0].ToCurrency() : Currency();
+      bool cancel = two && event.args[1].ToBool();
+      emit ValidateInvoiceAmountLimit(amount, cancel);
+      if (two) event.args = {Variant(amount), Variant(cancel)};
+      break;
+    }
+    default: break;
+  }
+}
+
+void InvoiceEntry::Clear() { Guard([&] { control_->Clear(); }); }
+void InvoiceEntry::ShowDistribution() { Guard([&] { control_->ShowDistribution(); }); }
+
+bool InvoiceEntry::IsDataValid(QString& InvalidReason, bool& Incomplete) {
+  std::string reason = FromQString(InvalidReason);
+  bool valid = false;
+  Guard([&] { valid = control_->IsDataValid(reason, Incomplete); });
+  InvalidReason = ToQString(reason);
+  return valid;
+}
+
+QString InvoiceEntry::InvalidReason() {
+  QString reason;
+  bool incomplete = false;
+  IsDataValid(reason, incomplete);
+  return reason;
+}
+
+bool InvoiceEntry::DataEntryComplete() const { return control_->DataEntryComplete(); }
+
+QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
+  QVariantMap map;
+  Guard([&] {
+    const std::shared_ptr<clsInvoice> invoice = control_->InvoiceValues(TheRow);
+    map.insert(QStringLiteral("InvoiceDate"), ToQDate(invoice->InvoiceDate));
+    map.insert(QStringLiteral("InvoiceNo"), ToQString(invoice->InvoiceNo));
+    map.insert(QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount));
+    map.insert(QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount));
+    map.insert(QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense));
+    map.insert(QStringLiteral("PaymentFor"), ToQString(invoice->PaymentFor));
+    map.insert(QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename));
+    QVariantList lines;
+    if (invoice->Distributions) {
+      for (const auto& line : *invoice->Distributions) {
+        QVariantMap entry;
+        entry.insert(QStringLiteral("GLAccount"), ToQString(line->GLAccount));
+        entry.insert(QStringLiteral("Amount"), QVariant::fromValue(line->Amount));
+        lines.append(entry);
+      }
+    }
+    map.insert(QStringLiteral("Distributions"), lines);
+  });
+  return map;
+}
+
+void InvoiceEntry::SetInvoiceValues(short TheRow, const QVariant& value) {
+  Guard([&] { control_->SetInvoiceValues(TheRow, FromQVariant(value)); });
+}
+
+void InvoiceEntry::DeleteCurrentRow() { Guard([&] { control_->DeleteCurrentRow(); }); }
+
+bool InvoiceEntry::AddInvoice(const QDate& InvoiceDate, const QString& InvoiceNo, Currency InvoiceAmount,
+                              const QVariant& GST, bool bShowDistribution) {
+  bool result = false;
+  Guard([&] {
+    result = control_->AddInvoice(FromQDate(InvoiceDate), FromQString(InvoiceNo), InvoiceAmount, FromQVariant(GST),
+                                  Variant(bShowDistribution));
+  });
+  return result;
+}
+
+void InvoiceEntry::SetEmailFilename(short TheRow, const QString& TheEmailAddress) {
+  Guard([&] { control_->SetEmailFilename(TheRow, FromQString(TheEmailAddress)); });
+}
+
+short InvoiceEntry::InvoiceCount_DetailLines() const { return control_->InvoiceCount_DetailLines(); }
+short InvoiceEntry::InvoiceCount() const { return control_->InvoiceCount(); }
+
+void InvoiceEntry::DeleteByEmailFilename(const QString& strFilename) {
+  Guard([&] { control_->DeleteByEmailFilename(FromQString(strFilename)); });
+}
+
+void InvoiceEntry::SetCurrencyRate(float rate) { Guard([&] { control_->SetCurrencyRate(rate); }); }
+void InvoiceEntry::SetIPCurrency(const QString& code) { Guard([&] { control_->SetIPCurrency(FromQString(code)); }); }
+void InvoiceEntry::SetOtherCurrencyCode(const QVariant& code) {
+  Guard([&] { control_->SetOtherCurrencyCode(FromQVariant(code)); });
+}
+void InvoiceEntry::ParseInvoiceNo(const QString& sInvoiceNo) {
+  Guard([&] { control_->ParseInvoiceNo(FromQString(sInvoiceNo)); });
+}
+
+QVariantList InvoiceEntry::PassInvoiceValues(short TheRow, bool& bMultiple) {
+  QVariantList result;
+  Guard([&] {
+    for (const InvoiceOutputLine& line : control_->PassInvoiceValues(TheRow, bMultiple)) {
+      QVariantMap map;
+      map.insert(QStringLiteral("Text"), ToQString(line.Text));
+      map.insert(QStringLiteral("First"), line.First);
+      if (line.First) {
+        map.insert(QStringLiteral("InvoiceDate"), ToQDate(line.InvoiceDate));
+        map.insert(QStringLiteral("InvoiceAmount"), QVariant::fromValue(line.InvoiceAmount));
+        map.insert(QStringLiteral("GSTAmount"), QVariant::fromValue(line.GSTAmount));
+        map.insert(QStringLiteral("CompanyExpense"), QVariant::fromValue(line.CompanyExpense));
+      }
+      result.append(map);
+    }
+  });
+  return result;
+}
+
+QVariantList InvoiceEntry::PassInvoiceValues(short TheRow) {
+  bool multiple = false;
+  return PassInvoiceValues(TheRow, multiple);
+}
+
+void InvoiceEntry::SetupIPGrid() {
+  Guard([&] { control_->SetupIPGrid(); });
+  FitGrid();
+}
+
+
+#define ZENTA_COLOR_PROPERTY(Name)                                                                   \
+  QColor InvoiceEntry::Name() const { return ToQColor(control_->Name(), palette()); }               \
+  void InvoiceEntry::Set##Name(const QColor& color) { Guard([&] { control_->Set##Name(FromQColor(color)); }); }
+
+ZENTA_COLOR_PROPERTY(BackColorGridHeader)
+ZENTA_COLOR_PROPERTY(BackColorGridFooter)
+ZENTA_COLOR_PROPERTY(ForeColorGridHeader)
+ZENTA_COLOR_PROPERTY(ForeColorGridFooter)
+ZENTA_COLOR_PROPERTY(RowColorEven)
+ZENTA_COLOR_PROPERTY(RowColorOdd)
+#undef ZENTA_COLOR_PROPERTY
+
+QString InvoiceEntry::DefaultGLAccount() const { return ToQString(control_->DefaultGLAccount()); }
+void InvoiceEntry::SetDefaultGLAccount(const QString& account) {
+  Guard([&] { control_->SetDefaultGLAccount(FromQString(account)); });
+}
+
+short InvoiceEntry::CurrentRow() const { return control_->CurrentRow(); }
+void InvoiceEntry::SetCurrentRow(short row) { Guard([&] { control_->SetCurrentRow(row); }); }
+short InvoiceEntry::RowCount() const { return control_->RowCount(); }
+Currency InvoiceEntry::TotalAmount() const { return control_->TotalAmount(); }
+Currency InvoiceEntry::TotalGST() const { return control_->TotalGST(); }
+Currency InvoiceEntry::TotalExpense() const { return control_->TotalExpense(); }
+Currency InvoiceEntry::TotalForeignAmount() const { return control_->TotalForeignAmount(); }
+
+void InvoiceEntry::Rebind() { Guard([&] { control_->grInvoices().Engine().Rebind(); }); }
+
+}  // namespace zenta::qt
