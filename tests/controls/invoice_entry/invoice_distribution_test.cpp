@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "tests/controls/invoice_entry/invoice_screen.h"
+#include "zenta/platform/grid_navigation.h"
 
 namespace zenta::testing {
 namespace {
@@ -67,6 +68,29 @@ TEST_F(InvoiceDistributionTest, EnterAfterATypedAmountOpensTheWindowForThatAmoun
   EXPECT_EQ(form.PendingDialogScripts(), 0u);
   EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 1);
   EXPECT_EQ(host.Events().back().name, "FirstDistributionEntered");
+}
+
+TEST_F(InvoiceDistributionTest, ABusinessRowTypedByKeysOffersItsNetExpense) {
+  control.SetBusinessMode(true);
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  InDialog([&] {
+    EXPECT_EQ(Dialog().AmountToDistribute(), Money("100"));
+    user.Click(Accept());
+  });
+  user.Type("INV-8\t11300\t1300\t");
+  user.PressTab();
+  EXPECT_EQ(form.PendingDialogScripts(), 0u);
+  const auto invoice = control.InvoiceValues(1);
+  EXPECT_EQ(invoice->CompanyExpense, Money("100"));
+  ASSERT_EQ(invoice->Distributions->Count(), 1);
+  EXPECT_EQ(invoice->Distributions->Item(Variant(1))->Amount, Money("100"));
+
+  // A row left for the next one keeps its worked-out expense.
+  user.ClickCell(Grid(), 1, InvoiceStore::kNumberColumn);
+  user.Type("INV-9\t5000\t0\t");
+  user.PressKey(platform::keys::kUp);
+  form.Settle();
+  EXPECT_EQ(control.InvoiceValues(2)->CompanyExpense, Money("50"));
 }
 
 TEST_F(InvoiceDistributionTest, CancellingChangesNothingAndDeletingTheRowDropsItsLines) {

@@ -116,7 +116,12 @@ void InvoiceEntry::WireGrid() {
   platform::GridHandlers& on = grid_.Engine().Handlers();
   on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
   on.after_col_update = [this](int column) { last_edited_column_ = column; };
-  on.after_update = [this] { grid_.Engine().PostMessage(kAfterRowEdit); };
+  on.after_update = [this] {
+    // The derived columns are worked out now, for the row just stored: the distribution window
+    // may open before the posted refresh runs, and the cursor may have moved on by then.
+    if (const auto stored = grid_.Engine().CurrentRow()) DeriveColumns(*stored);
+    grid_.Engine().PostMessage(kAfterRowEdit);
+  };
   on.before_delete = [this](platform::CancelArgs& args) {
     if (deleting_) return;
     args.cancel = host_.ShowMessage({"Are you sure you want to delete this invoice?", "Delete this invoice?",
@@ -233,18 +238,19 @@ void InvoiceEntry::OnPosted(int message) {
   }
 }
 
-void InvoiceEntry::AfterRowEdit() {
-  const auto current = grid_.Engine().CurrentRow();
-  if (current && *current < store_.Count()) {
-    if (ForeignMode()) {
-      Convert(*current, last_edited_column_);
-    } else if (BusinessMode()) {
-      InvoiceStore::Row row = store_.At(*current);
-      if (row.amount || row.gst) row.expense = row.amount.value_or(Currency()) - row.gst.value_or(Currency());
-      store_.Put(*current, std::move(row));
-    }
-    grid_.Engine().Refresh();
+void InvoiceEntry::DeriveColumns(int index) {
+  if (index < 0 || index >= store_.Count()) return;
+  if (ForeignMode()) {
+    Convert(index, last_edited_column_);
+  } else if (BusinessMode()) {
+    InvoiceStore::Row row = store_.At(index);
+    if (row.amount || row.gst) row.expense = row.amount.value_or(Currency()) - row.gst.value_or(Currency());
+    store_.Put(index, std::move(row));
   }
+}
+
+void InvoiceEntry::AfterRowEdit() {
+  grid_.Engine().Refresh();
   events_.Recalculate();
 }
 

@@ -161,6 +161,8 @@ class InvoiceEntry {
   void OnPosted(int message);
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void OnKeyDown(platform::KeyDown& key);
+  // Net expense (business) or the conversion (foreign) of store row `index`.
+  void DeriveColumns(int index);
   void AfterRowEdit();
   bool CheckCurrentRow(std::string& reason, bool& incomplete, int& column);
   bool Fail(std::string& InvalidReason, const std::string& reason, int column);
