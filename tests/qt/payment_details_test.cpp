@@ -1,4 +1,6 @@
 #include <QAbstractItemView>
+#include <QHeaderView>
+#include <QTableView>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -118,6 +120,21 @@ class PaymentDetailsTest : public QObject {
     QVERIFY(view);
     QCOMPARE(view->model()->index(0, 0).data().toString(), QString("1150,50"));
     QCOMPARE(payment_->PaymentAmount(), Money("1150.5"));
+  }
+
+  void everyGridCaptionIsWholeAtTheControlsOwnSize() {
+    for (bool business : {false, true}) {
+      payment_->SetBusinessMode(business);
+      payment_->resize(payment_->sizeHint());
+      QCoreApplication::processEvents();
+      auto* view = qobject_cast<QTableView*>(Grid());
+      QVERIFY(view);
+      for (int column = 0; column < view->model()->columnCount(); ++column) {
+        if (view->isColumnHidden(column)) continue;
+        QVERIFY2(view->columnWidth(column) >= view->horizontalHeader()->sectionSizeHint(column),
+                 qPrintable(view->model()->headerData(column, Qt::Horizontal).toString()));
+      }
+    }
   }
 
   void theBusinessLayoutAsksForItsWidth() {

@@ -13,6 +13,7 @@
 #include "zenta/qt/toolkit/qt_grid_delegate.h"
 #include "zenta/qt/toolkit/ui_text.h"
 #include "zenta/qt/toolkit/key_mapping.h"
+#include "zenta/qt/toolkit/twips_layout.h"
 
 namespace zenta::qt {
 
@@ -103,6 +104,8 @@ void QtGridView::ColumnsChanged() {
   updateGeometries();
   footer_->update();
   viewport()->update();
+  // Shown or renamed columns may need a wider control.
+  if (auto* container = dynamic_cast<TwipsContainer*>(parentWidget())) container->Relayout();
 }
 
 void QtGridView::FitColumns() {
@@ -127,6 +130,17 @@ void QtGridView::FitColumns() {
     slack -= grow;
     setColumnWidth(column, width + grow);
   }
+}
+
+int QtGridView::CaptionsWidth() const {
+  const QHeaderView& header = *horizontalHeader();
+  int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  for (int column = 0; column < engine_->ColumnCount(); ++column) {
+    const platform::GridColumn& description = engine_->Column(column);
+    if (!description.visible) continue;
+    width += std::max(description.width * logicalDpiX() / 1440, header.sectionSizeHint(column));
+  }
+  return width;
 }
 
 void QtGridView::resizeEvent(QResizeEvent* event) {

@@ -37,6 +37,9 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
   void Post(std::function<void()> action) override;
 
+  // The width in pixels that shows every visible column with its whole caption.
+  int CaptionsWidth() const;
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -51,6 +51,10 @@ void QtSurface::Relayout() {
       scaled.setWidth(std::max(scaled.width(), widget->sizeHint().width()));
       needed = std::max(needed, qRound(px.x() * fitted) + widget->sizeHint().width());
     }
+    // A grid asks for the room its columns' captions need.
+    if (auto* grid = dynamic_cast<QtGridView*>(widget.data())) {
+      needed = std::max(needed, qRound(px.x() * fitted) + grid->CaptionsWidth());
+    }
     scaled.setHeight(std::max(scaled.height(), widget->minimumSizeHint().height()));
     widget->setGeometry(scaled);
   }

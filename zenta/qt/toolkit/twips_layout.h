@@ -25,12 +25,13 @@ class TwipsContainer {
   virtual ~TwipsContainer() = default;
   void Place(QWidget& child, const platform::TwipsRect& rect);
   std::optional<platform::TwipsRect> PlacedRect(const QWidget& child) const;
+  // Lays the children out again; a child whose room needs changed (a grid's columns) asks.
+  virtual void Relayout() = 0;
 
  protected:
   using Placed = std::vector<std::pair<QPointer<QWidget>, platform::TwipsRect>>;
   void AddPlaced(QWidget* child, const platform::TwipsRect& rect) { placed_.emplace_back(child, rect); }
   const Placed& PlacedChildren() const { return placed_; }
-  virtual void Relayout() = 0;
 
  private:
   Placed placed_;
