@@ -1,5 +1,7 @@
 #include "zenta/core/currency.h"
 
+#include <ostream>
+
 #include <limits>
 
 #include "zenta/core/decimal.h"
@@ -151,5 +153,7 @@ Currency& Currency::operator-=(Currency other) {
   units_ = difference;
   return *this;
 }
+
+std::ostream& operator<<(std::ostream& out, const Currency& value) { return out << value.ToString(); }
 
 }  // namespace zenta

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 #include <optional>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -60,5 +61,8 @@ class Currency {
  private:
   std::int64_t units_ = 0;
 };
+
+// Writes ToString(): test failures and logs show "12.5", not the raw units.
+std::ostream& operator<<(std::ostream& out, const Currency& value);
 
 }  // namespace zenta

@@ -1,5 +1,7 @@
 #include "zenta/core/date.h"
 
+#include <ostream>
+
 #include <cstdio>
 
 #include "zenta/core/host_error.h"
@@ -117,5 +119,7 @@ std::int32_t Date::DaysUntil(Date later) const {
   if (__builtin_sub_overflow(later.day_, day_, &days)) throw HostError::Overflow(kSource);
   return days;
 }
+
+std::ostream& operator<<(std::ostream& out, const Date& value) { return out << value.ToText(); }
 
 }  // namespace zenta

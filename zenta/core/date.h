@@ -3,6 +3,7 @@
 #include <compare>
 #include <cstdint>
 #include <optional>
+#include <iosfwd>
 #include <string>
 #include <string_view>
 
@@ -52,5 +53,8 @@ class Date {
  private:
   std::int32_t day_ = 0;
 };
+
+// Writes ToText(), for test failures and logs.
+std::ostream& operator<<(std::ostream& out, const Date& value);
 
 }  // namespace zenta
