@@ -148,6 +148,8 @@ void GridEngine::SetColumnTabStop(int column, bool tab_stop) {
   view_.ColumnsChanged();
 }
 void GridEngine::SetFooterText(int column, const std::string& text) {
+  // Totals are set after every edit; an unchanged one repaints nothing.
+  if (Column(column).footer_text == text) return;
   const_cast<GridColumn&>(Column(column)).footer_text = text;
   view_.ColumnsChanged();
 }

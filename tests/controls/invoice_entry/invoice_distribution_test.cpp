@@ -93,6 +93,41 @@ TEST_F(InvoiceDistributionTest, ABusinessRowTypedByKeysOffersItsNetExpense) {
   EXPECT_EQ(control.InvoiceValues(2)->CompanyExpense, Money("50"));
 }
 
+TEST_F(InvoiceDistributionTest, TheLinesGridShowsTheCurrentInvoicesLinesAndDeletesOneOnlyWhenConfirmed) {
+  control.AddInvoice(Day(2026, 2, 1), "A", Money("100"));
+  control.AddInvoice(Day(2026, 2, 1), "B", Money("10"));
+  InDialog([&] { SplitSixtyForty(); });
+  control.SetCurrentRow(1);
+  control.ShowDistribution();
+  form.Settle();
+  platform::GridEngine& lines = control.grDistribution().Engine();
+  ASSERT_EQ(lines.RowCount(), 2);
+  EXPECT_EQ(lines.DisplayedText(0, InvoiceLinesSource::kAccountColumn), "5100");
+  EXPECT_EQ(lines.DisplayedText(1, InvoiceLinesSource::kAmountColumn), "40.00");
+  EXPECT_EQ(lines.Column(InvoiceLinesSource::kAmountColumn).footer_text, "100.00");
+
+  user.ClickCell(Grid(), 1, InvoiceStore::kNumberColumn);
+  EXPECT_EQ(lines.RowCount(), 0);
+  EXPECT_EQ(lines.Column(InvoiceLinesSource::kAmountColumn).footer_text, "");
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  ASSERT_EQ(lines.RowCount(), 2);
+
+  host.ExpectMessage(platform::MessageResult::No);
+  user.ClickCell(control.grDistribution(), 1, InvoiceLinesSource::kAccountColumn);
+  lines.DeleteCurrentRow();
+  EXPECT_EQ(host.MessagesShown().back().title, "Delete this distribution?");
+  EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 2);
+  host.ExpectMessage(platform::MessageResult::Yes);
+  lines.DeleteCurrentRow();
+  EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 1);
+  EXPECT_EQ(lines.RowCount(), 1);
+  EXPECT_EQ(lines.Column(InvoiceLinesSource::kAmountColumn).footer_text, "60.00");
+  std::string reason;
+  bool incomplete = false;
+  EXPECT_FALSE(control.IsDataValid(reason, incomplete));
+  EXPECT_NE(reason.find("does not equal"), std::string::npos) << reason;
+}
+
 TEST_F(InvoiceDistributionTest, CancellingChangesNothingAndDeletingTheRowDropsItsLines) {
   control.AddInvoice(Day(2026, 2, 1), "A", Money("100"));
   control.AddInvoice(Day(2026, 2, 1), "B", Money("10"));

@@ -7,6 +7,7 @@
 #include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
 #include "zenta/core/host_error.h"
+#include "zenta/core/number_format.h"
 #include "zenta/entry/amount_entry.h"
 #include "zenta/entry/amount_key_filter.h"
 #include "zenta/entry/enter_key.h"
@@ -87,12 +88,15 @@ InvoiceEntry::InvoiceEntry(platform::ControlSurface& surface, platform::HostServ
   WireGrid();
   surface_.OnKeyDown([this](platform::KeyDown& key) { entry::EnterMovesOn(key, host_); });
   grid_.Engine().SetSource(&store_);
+  BuildLineColumns();
+  distribution_grid_.Engine().SetSource(&lines_source_);
   ApplyColors();
 }
 
 InvoiceEntry::~InvoiceEntry() {
   *alive_ = false;
   grid_.Engine().SetSource(nullptr);
+  distribution_grid_.Engine().SetSource(nullptr);
 }
 
 void InvoiceEntry::BuildColumns() {
@@ -112,6 +116,34 @@ void InvoiceEntry::BuildColumns() {
   engine.SetAllowDelete(true);
 }
 
+void InvoiceEntry::BuildLineColumns() {
+  platform::GridEngine& engine = distribution_grid_.Engine();
+  using platform::ColumnKind;
+  using Lines = InvoiceLinesSource;
+  engine.SetColumn(Lines::kIdColumn, Described("ID", ColumnKind::Number, 0, false));
+  engine.SetColumn(Lines::kAccountColumn, Described("G/L Account", ColumnKind::Text, 1500));
+  engine.SetColumn(Lines::kAmountColumn, Described("Amount", ColumnKind::Number, 1000));
+  // The lines change through the distribution window; here they are read, or deleted.
+  engine.SetColumnLocked(Lines::kAccountColumn, true);
+  engine.SetColumnLocked(Lines::kAmountColumn, true);
+  engine.SetAllowAddNew(false);
+  engine.SetAllowDelete(true);
+  engine.Handlers().format_text = [](platform::FormatTextArgs& args) {
+    if (args.column == Lines::kAmountColumn && !args.value.IsEmpty()) args.text = FormatNumber(args.value.ToCurrency(), formats::kAmount);
+  };
+}
+
+void InvoiceEntry::ShowCurrentLines(bool lines_changed) {
+  const auto current = grid_.Engine().CurrentRow();
+  const std::int16_t id = current && *current < store_.Count() ? store_.At(*current).id : std::int16_t{0};
+  platform::GridEngine& engine = distribution_grid_.Engine();
+  if (!lines_changed && id == lines_source_.Invoice()) return;
+  lines_source_.ShowInvoice(id);
+  engine.Rebind();
+  const bool any = lines_source_.RowCount() > 0;
+  engine.SetFooterText(InvoiceLinesSource::kAmountColumn, any ? FormatNumber(lines_source_.Total(), formats::kAmount) : "");
+}
+
 void InvoiceEntry::WireGrid() {
   platform::GridHandlers& on = grid_.Engine().Handlers();
   on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
@@ -128,7 +160,12 @@ void InvoiceEntry::WireGrid() {
                                      platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
                   platform::MessageResult::No;
   };
-  on.after_delete = [this] { events_.Recalculate(); };
+  on.after_delete = [this] {
+    ShowCurrentLines(true);
+    events_.Recalculate();
+  };
+  on.row_col_change = [this](std::optional<int>, int) { ShowCurrentLines(); };
+  distribution_grid_.Engine().Handlers().after_delete = [this] { ShowCurrentLines(true); };
   distribution_grid_.Engine().Handlers().before_delete = [this](platform::CancelArgs& args) {
     args.cancel = host_.ShowMessage({"Are you sure you want to delete this distribution?", "Delete this distribution?",
                                      platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
@@ -153,7 +190,7 @@ void InvoiceEntry::WireGrid() {
     if (args.column < Col::kAmountColumn || args.column > Col::kExpenseColumn || args.value.IsEmpty()) return;
     const Currency value = args.value.ToCurrency();
     const bool rate = ForeignMode() && args.column == Col::kGSTColumn;
-    args.text = rate ? std::to_string(value.ToDouble()) : value.RoundedTo(2).ToString();
+    args.text = FormatNumber(value, rate ? formats::kRate : formats::kAmount);
   };
 }
 
@@ -386,6 +423,7 @@ void InvoiceEntry::ShowDistribution() {
   store_.SetLines(id, std::move(lines));
   store_.SetPaymentFor(index, Text(dialog.PaymentFor()));
   engine.Refresh();
+  ShowCurrentLines(true);
   engine.PostMessage(first ? kRaiseFirstDistribution : kRaiseDistribution);
 }
 
@@ -543,7 +581,10 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
   return false;
 }
 
-void InvoiceEntry::Rebind() { grid_.Engine().Rebind(); }
+void InvoiceEntry::Rebind() {
+  grid_.Engine().Rebind();
+  ShowCurrentLines();
+}
 
 void InvoiceEntry::RepositionAfterBulk() {
   platform::GridEngine& engine = grid_.Engine();

@@ -7,6 +7,7 @@
 
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/invoice_entry/invoice_events.h"
+#include "zenta/controls/invoice_entry/invoice_lines_source.h"
 #include "zenta/controls/invoice_entry/invoice_properties.h"
 #include "zenta/controls/invoice_entry/invoice_store.h"
 #include "zenta/core/currency.h"
@@ -137,6 +138,8 @@ class InvoiceEntry {
   void ReadProperties(const platform::PropertyBag& bag);
   void WriteProperties(platform::PropertyBag& bag) const { properties_.Write(bag); }
 
+  // The lines of the current invoice, beside the list.
+  platform::Grid& grDistribution() { return distribution_grid_; }
   platform::Grid& grInvoices() { return grid_; }
   const platform::Grid& grInvoices() const { return grid_; }
   const InvoiceStore& Store() const { return store_; }
@@ -146,6 +149,9 @@ class InvoiceEntry {
 
  private:
   void BuildColumns();
+  void BuildLineColumns();
+  // Shows the current invoice's lines in grDistribution (again when they changed).
+  void ShowCurrentLines(bool lines_changed = false);
   void WireGrid();
   void ApplyColors();
   void ApplyEnabled();
@@ -175,6 +181,7 @@ class InvoiceEntry {
   platform::Grid& distribution_grid_;
   InvoiceProperties properties_;
   InvoiceStore store_;
+  InvoiceLinesSource lines_source_{store_};
   float currency_rate_ = 0;
   std::string ip_currency_{LibraryContext::kHomeCurrency};
   int last_edited_column_ = InvoiceStore::kAmountColumn;
