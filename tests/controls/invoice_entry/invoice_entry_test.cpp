@@ -33,6 +33,12 @@ TEST_F(InvoiceEntryTest, BusinessModeKeepsGSTAndExpenseExactToTheTenThousandth) 
   EXPECT_EQ(control.TotalAmount(), Money("163.0001"));
   EXPECT_EQ(control.TotalGST(), Money("13.0001"));
   EXPECT_EQ(control.TotalExpense(), Money("150"));
+  // The totals stand under their columns once the host's call has returned.
+  form.RunPosted();
+  const platform::GridEngine& grid = Engine();
+  EXPECT_EQ(grid.Column(InvoiceStore::kAmountColumn).footer_text, "163.00");
+  EXPECT_EQ(grid.Column(InvoiceStore::kGSTColumn).footer_text, "13.00");
+  EXPECT_EQ(grid.Column(InvoiceStore::kExpenseColumn).footer_text, "150.00");
   EXPECT_EQ(control.InvoiceValues(2)->CompanyExpense, Money("50"));
   // Changing the mode empties the list.
   control.SetBusinessMode(false);

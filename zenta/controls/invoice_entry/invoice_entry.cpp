@@ -144,6 +144,29 @@ void InvoiceEntry::ShowCurrentLines(bool lines_changed) {
   engine.SetFooterText(InvoiceLinesSource::kAmountColumn, any ? FormatNumber(lines_source_.Total(), formats::kAmount) : "");
 }
 
+void InvoiceEntry::ScheduleTotals() {
+  if (totals_pending_) return;
+  totals_pending_ = true;
+  std::weak_ptr<bool> alive = alive_;
+  host_.Post([this, alive] {
+    if (alive.expired()) return;
+    totals_pending_ = false;
+    ShowTotals();
+  });
+}
+
+void InvoiceEntry::ShowTotals() {
+  platform::GridEngine& engine = grid_.Engine();
+  const bool any = store_.Count() > 0;
+  auto footer = [&](int column, bool shown, Currency total) {
+    engine.SetFooterText(column, any && shown ? FormatNumber(total, formats::kAmount) : "");
+  };
+  const bool foreign = ForeignMode();
+  footer(Col::kAmountColumn, true, foreign ? TotalForeignAmount() : TotalAmount());
+  footer(Col::kGSTColumn, BusinessMode() && !foreign, TotalGST());
+  footer(Col::kExpenseColumn, BusinessMode() || foreign, TotalExpense());
+}
+
 void InvoiceEntry::WireGrid() {
   platform::GridHandlers& on = grid_.Engine().Handlers();
   on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
@@ -162,6 +185,7 @@ void InvoiceEntry::WireGrid() {
   };
   on.after_delete = [this] {
     ShowCurrentLines(true);
+    ScheduleTotals();
     events_.Recalculate();
   };
   on.row_col_change = [this](std::optional<int>, int) { ShowCurrentLines(); };
@@ -288,6 +312,7 @@ void InvoiceEntry::DeriveColumns(int index) {
 
 void InvoiceEntry::AfterRowEdit() {
   grid_.Engine().Refresh();
+  ShowTotals();
   events_.Recalculate();
 }
 
@@ -584,6 +609,7 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
 void InvoiceEntry::Rebind() {
   grid_.Engine().Rebind();
   ShowCurrentLines();
+  ScheduleTotals();
 }
 
 void InvoiceEntry::RepositionAfterBulk() {
@@ -679,7 +705,11 @@ void InvoiceEntry::SetupIPGrid() {
     engine.SetColumnCaption(Col::kAmountColumn, "Invoice Amount");
     engine.SetColumnCaption(Col::kGSTColumn, "Refundable GST/HST");
     engine.SetColumnCaption(Col::kExpenseColumn, "Net Expense");
+    platform::TwipsRect rect = grid_.Rect();
+    rect.width = std::max(rect.width == kForeignGridWidth ? 0 : rect.width, kInvoiceGridRect.width);
+    grid_.SetRect(rect);
   }
+  ScheduleTotals();
 }
 
 void InvoiceEntry::InitProperties() {

@@ -152,6 +152,10 @@ class InvoiceEntry {
   void BuildLineColumns();
   // Shows the current invoice's lines in grDistribution (again when they changed).
   void ShowCurrentLines(bool lines_changed = false);
+  // The totals under the amount columns, worked out once after the current call: a host
+  // adding thousands of invoices in a row pays for one pass, not one a row.
+  void ScheduleTotals();
+  void ShowTotals();
   void WireGrid();
   void ApplyColors();
   void ApplyEnabled();
@@ -187,6 +191,7 @@ class InvoiceEntry {
   int last_edited_column_ = InvoiceStore::kAmountColumn;
   int pending_row_ = 0;
   bool deleting_ = false;
+  bool totals_pending_ = false;
   bool number_refused_ = false;
   bool amount_refused_ = false;
   std::vector<std::string> parsed_lines_;
