@@ -40,11 +40,34 @@ INSTANTIATE_TEST_SUITE_P(
                       150 + 500 + 2000 + 400 + 285 + 255 - 20}),
     [](const auto& param_info) { return std::string(param_info.param.name); });
 
+TEST(PlacementOverControl, StaysOnTheControlUnlessThatLeavesTheFormsInnerArea) {
+  // The form's inner area runs from (1120, 2400) to (10000, 9000).
+  ContainerMetrics where{300, 500, kForm, true, {}};
+  DialogPlacement place = PlaceOverControl(where, 5000, 3000);
+  EXPECT_EQ(place.left, 1000 + 120 + 300);
+  EXPECT_EQ(place.top, 2000 + 400 + 500);
+  where.control_left = 6000;
+  where.control_top = 5000;
+  place = PlaceOverControl(where, 5000, 3000);
+  EXPECT_EQ(place.left, 10000 - 5000);
+  EXPECT_EQ(place.top, 9000 - 3000);
+  // Larger than the area: its top-left corner.
+  place = PlaceOverControl(where, 20000, 20000);
+  EXPECT_EQ(place.left, 1120);
+  EXPECT_EQ(place.top, 2400);
+  // In a frame, the form's area still bounds it.
+  where = {300, 500, {200, 150, 5000, 3000, 4950, 2900}, false, kForm};
+  place = PlaceOverControl(where, 9000, 1000);
+  EXPECT_EQ(place.left, 1120);
+  EXPECT_EQ(place.top, 150 + 500 + 2000 + 400);
+}
+
 TEST(PlacementLimits, OverflowRaisesRatherThanWrapping) {
   ContainerMetrics where;
   where.container = {2'147'483'000, 0, 1000, 0, 0, 0};
   where.control_left = 1000;
   EXPECT_THROW(PlaceBelowRow(where, 0, 0), HostError);
+  EXPECT_THROW(PlaceOverControl(where, 0, 0), HostError);
 }
 
 TEST(LinesForDialog, ZeroAmountLinesKeepTheirRowEmptyAndFiveRowsAtLeast) {

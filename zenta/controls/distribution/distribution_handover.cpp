@@ -18,15 +18,35 @@ constexpr int kLastColumn = 3;
 constexpr int kMinimumRows = 5;
 constexpr std::int64_t kOverlap = 20;
 
-int Checked(std::int64_t twips) {
+int Checked(std::int64_t twips, const char* source) {
   if (twips < std::numeric_limits<int>::min() || twips > std::numeric_limits<int>::max()) {
-    throw HostError::Overflow("PaymentDetails");
+    throw HostError::Overflow(source);
   }
   return static_cast<int>(twips);
 }
 
 std::int64_t Frame(const platform::WindowMetrics& window, bool across) {
   return across ? std::int64_t{window.width} - window.scale_width : std::int64_t{window.height} - window.scale_height;
+}
+
+// The control's top-left on the screen: the whole outer-minus-scale difference of the form
+// counts as its frame; a frame holding the control adds its position only.
+struct Origin {
+  std::int64_t left = 0;
+  std::int64_t top = 0;
+};
+
+Origin ControlOrigin(const platform::ContainerMetrics& where) {
+  const platform::WindowMetrics& c = where.container;
+  Origin origin{std::int64_t{c.left} + where.control_left, std::int64_t{c.top} + where.control_top};
+  const platform::WindowMetrics& form = where.container_is_form ? c : where.parent_form;
+  if (!where.container_is_form) {
+    origin.left += form.left;
+    origin.top += form.top;
+  }
+  origin.left += Frame(form, true);
+  origin.top += Frame(form, false);
+  return origin;
 }
 
 bool IsEmptyCell(const Variant& value) {
@@ -37,17 +57,21 @@ bool IsEmptyCell(const Variant& value) {
 }  // namespace
 
 DialogPlacement PlaceBelowRow(const platform::ContainerMetrics& where, int first_row_top, int row_height) {
-  const platform::WindowMetrics& c = where.container;
-  std::int64_t left = std::int64_t{c.left} + where.control_left;
-  std::int64_t top = std::int64_t{c.top} + where.control_top;
-  const platform::WindowMetrics& form = where.container_is_form ? c : where.parent_form;
-  if (!where.container_is_form) {
-    left += form.left;
-    top += form.top;
-  }
-  left += Frame(form, true);
-  top += Frame(form, false) + first_row_top + row_height - kOverlap;
-  return {Checked(left), Checked(top)};
+  const Origin control = ControlOrigin(where);
+  return {Checked(control.left, "PaymentDetails"),
+          Checked(control.top + first_row_top + row_height - kOverlap, "PaymentDetails")};
+}
+
+DialogPlacement PlaceOverControl(const platform::ContainerMetrics& where, int width, int height) {
+  const Origin control = ControlOrigin(where);
+  const platform::WindowMetrics& form = where.container_is_form ? where.container : where.parent_form;
+  const std::int64_t area_left = std::int64_t{form.left} + Frame(form, true);
+  const std::int64_t area_top = std::int64_t{form.top} + Frame(form, false);
+  auto kept = [](std::int64_t at, std::int64_t size, std::int64_t area_start, std::int64_t area_size) {
+    return std::max(area_start, std::min(at, area_start + area_size - size));
+  };
+  return {Checked(kept(control.left, width, area_left, form.scale_width), "InvoiceEntry"),
+          Checked(kept(control.top, height, area_top, form.scale_height), "InvoiceEntry")};
 }
 
 std::shared_ptr<platform::Array2D> LinesForDialog(const clsDistributions& lines) {

@@ -20,6 +20,12 @@ struct DialogPlacement {
 // overlaps the row's lower edge by 20 twips. Raises Overflow rather than wrapping.
 DialogPlacement PlaceBelowRow(const platform::ContainerMetrics& where, int first_row_top, int row_height);
 
+// Over the control, its top-left on the control's, moved left and up as far as needed to keep
+// a window of `width` x `height` inside the inner area of the form (the container, or the form
+// holding it); a window larger than that area starts at its top-left. Raises Overflow rather
+// than wrapping.
+DialogPlacement PlaceOverControl(const platform::ContainerMetrics& where, int width, int height);
+
 // The dialog's line table for a payment's lines: row i-1 holds line i (account in column 1,
 // amount in column 2); a line of amount 0 leaves its row empty but still takes it. At least
 // five rows.

@@ -416,6 +416,9 @@ void InvoiceEntry::ShowDistribution() {
 
   FrmDistribution& dialog = context_.Distribution();
   dialog.SetVisibleInvoice(true);
+  const platform::TwipsRect size = dialog.Surface().Rect();
+  const DialogPlacement place = PlaceOverControl(host_.Container(), size.width, size.height);
+  dialog.Move(place.left, place.top);
   StyleDialogLines(dialog.Grid().Engine());
   dialog.SetIsFXPayment(ForeignMode());
   if (ForeignMode()) {
