@@ -219,6 +219,34 @@ TEST_F(GridEngineTest, F2EditsWithTheCaretAtTheEndAndBackspaceErasesBeforeIt) {
   EXPECT_EQ(engine.EditText(), "Aé");
 }
 
+TEST_F(GridEngineTest, ADateCellTypesThroughItsMaskAndStoresADateOrNothing) {
+  engine.SetColumnKind(2, ColumnKind::Date);
+  array->Set(0, 2, Variant(*Date::FromYmd(2026, 2, 1)));
+  engine.SetCurrentColumn(2);
+  Type("2");  // the first digit replaces the whole date
+  EXPECT_EQ(engine.EditText(), "2___/__/__");
+  Type("025/0");  // the slashes are the mask's own
+  EXPECT_EQ(engine.EditText(), "2025/0_/__");
+  EXPECT_EQ(engine.SelectionStart(), 6);
+  Key(keys::kBackspace);
+  engine.TypeCharacter(keys::kBackspace);
+  Type("1231");
+  EXPECT_EQ(engine.EditText(), "2025/12/31");
+  Type("9");  // full
+  EXPECT_EQ(engine.EditText(), "2025/12/31");
+  Key(keys::kDown);
+  EXPECT_EQ(array->Get(0, 2), Variant(*Date::FromYmd(2025, 12, 31)));
+
+  engine.SetCurrentRow(0);
+  engine.SetCurrentColumn(2);
+  Key(keys::kF2);
+  EXPECT_EQ(engine.EditText(), "2025/12/31");
+  for (int i = 0; i < 8; ++i) engine.TypeCharacter(keys::kBackspace);
+  EXPECT_EQ(engine.EditText(), "____/__/__");
+  Key(keys::kDown);
+  EXPECT_TRUE(array->Get(0, 2).IsEmpty());
+}
+
 TEST_F(GridEngineTest, LockedAndButtonCellsTakeNoTypingAndButtonsClick) {
   engine.SetColumnLocked(0, true);
   engine.SetColumnKind(2, ColumnKind::Button);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "zenta/core/date_mask.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/utf8.h"
 #include "zenta/platform/array_grid_source.h"
@@ -320,11 +321,22 @@ bool GridEngine::OpenEdit(char32_t key) {
   if (args.cancel || !current_row_) return false;
   if (editing_) return true;
   edit_text_ = CellText(current_column_);
+  if (Column(current_column_).kind == ColumnKind::Date) edit_text_ = DateMask::FromText(edit_text_).Text();
   editing_ = true;
   selection_start_ = 0;
   selection_length_ = Length(edit_text_);
   view_.EditorOpened();
   return true;
+}
+
+Variant GridEngine::EditedValue(int column) const {
+  if (Column(column).kind != ColumnKind::Date) return Variant(edit_text_);
+  // A date cell stores its date, nothing when its mask is blank, and the text of a partial
+  // date only when the control's column check let it through.
+  const DateMask mask = DateMask::FromText(edit_text_);
+  if (mask.IsBlank()) return Variant();
+  if (const auto date = mask.Value()) return Variant(*date);
+  return Variant(edit_text_);
 }
 
 void GridEngine::CloseEdit() {
@@ -345,7 +357,25 @@ bool GridEngine::StartEdit() {
   return true;
 }
 
+void GridEngine::TypeIntoDate(char32_t key) {
+  DateMask mask = DateMask::FromText(edit_text_);
+  const bool digit = key >= U'0' && key <= U'9';
+  const bool all_selected = selection_length_ > 0 && selection_length_ >= Length(edit_text_);
+  if (all_selected && (digit || key == keys::kBackspace)) {
+    mask.Clear();
+    if (digit) mask.Type(key);
+  } else if (key == keys::kBackspace) {
+    mask.Backspace();
+  } else if (!mask.Type(key)) {
+    return;  // the mask's slashes are its own; other characters type nothing
+  }
+  edit_text_ = mask.Text();
+  selection_start_ = mask.Caret();
+  selection_length_ = 0;
+}
+
 void GridEngine::InsertIntoEdit(char32_t key) {
+  if (Column(current_column_).kind == ColumnKind::Date) return TypeIntoDate(key);
   std::u32string text = utf8::Decode(edit_text_);
   const auto size = static_cast<int>(text.size());
   int start = std::clamp(selection_start_, 0, size);
@@ -396,7 +426,7 @@ bool GridEngine::CommitEdit() {
     if (requested && *requested != current_column_) MoveTo(*current_row_, *requested);
     return false;
   }
-  pending_[column] = Variant(edit_text_);
+  pending_[column] = EditedValue(column);
   CloseEdit();
   view_.RowChanged(*current_row_);
   if (handlers_.after_col_update) {

@@ -191,6 +191,10 @@ class GridEngine {
   bool OpenEdit(char32_t key);
   void CloseEdit();
   void InsertIntoEdit(char32_t key);
+  // Date columns: digits fill the mask's prompts, Backspace clears the last one.
+  void TypeIntoDate(char32_t key);
+  // What a committed edit stores in `column`.
+  Variant EditedValue(int column) const;
   void Navigate(platform::KeyDown& key);
   void MoveAcross(platform::KeyDown& key, int step);
   void ReportError(const std::exception& error, int number);

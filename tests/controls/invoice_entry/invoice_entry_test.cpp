@@ -162,6 +162,35 @@ TEST_F(InvoiceEntryTest, DatesAheadOrLongAgoAreQuestionedAndDeletionIsConfirmed)
   EXPECT_EQ(host.PendingAnswers(), 0u);
 }
 
+TEST_F(InvoiceEntryTest, TheDateCellRefusesPartDatesAndDatesBeyondTwoYears) {
+  user.ClickCell(Grid(), 0, InvoiceStore::kDateColumn);
+  user.Type("202602\t");
+  EXPECT_EQ(host.Beeps(), 1);
+  EXPECT_TRUE(Engine().IsEditing());
+  EXPECT_EQ(Engine().EditText(), "2026/02/__");
+  std::string reason;
+  bool incomplete = false;
+  EXPECT_FALSE(control.IsDataValid(reason, incomplete));
+  EXPECT_EQ(reason, "An invoice date is required");
+  EXPECT_TRUE(incomplete);
+
+  user.Type("29\t");  // 2026/02/29 does not exist
+  EXPECT_EQ(host.Beeps(), 2);
+  EXPECT_TRUE(Engine().IsEditing());
+
+  host.ExpectMessage(platform::MessageResult::Ok);
+  user.PressEscape();
+  user.Type("20290302\t");
+  ASSERT_FALSE(host.MessagesShown().empty());
+  EXPECT_EQ(host.MessagesShown().back(),
+            (platform::MessageBox{"The Invoice Date cannot be set to more than two years into the future. Please "
+                                  "adjust the date.",
+                                  "Invoice Date Validation", platform::MessageButtons::Ok,
+                                  platform::MessageIcon::Information}));
+  EXPECT_EQ(Engine().CurrentColumn(), InvoiceStore::kDateColumn);
+  EXPECT_TRUE(Engine().IsEditing());
+}
+
 TEST_F(InvoiceEntryTest, IsDataValidNamesTheFirstProblem) {
   std::string reason = "stale";
   bool incomplete = true;

@@ -6,6 +6,7 @@
 #include "zenta/controls/distribution/distribution_handover.h"
 #include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
+#include "zenta/core/date_mask.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
 #include "zenta/entry/amount_entry.h"
@@ -237,9 +238,23 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
   if (deleting_) return;
   platform::GridEngine& engine = grid_.Engine();
   if (args.column == Col::kDateColumn) {
-    const auto date = Date::Parse(Trimmed(engine.CellText(Col::kDateColumn)));
-    if (!date) return;
+    const DateMask typed = DateMask::FromText(engine.CellText(Col::kDateColumn));
+    const auto date = typed.Value();
+    if (!date) {
+      // A partial or impossible date stays in its cell for correction.
+      if (!typed.IsBlank()) {
+        host_.Beep();
+        args.cancel = true;
+      }
+      return;
+    }
     const Date today = host_.Today();
+    if (*date > today.AddYears(2)) {
+      // The date editor's own limit, before the column's questions.
+      host_.ShowMessage({kTooFarAhead, kDateTitle, platform::MessageButtons::Ok, platform::MessageIcon::Information});
+      args.cancel = true;
+      return;
+    }
     const char* question = nullptr;
     if (*date > today && *date <= today.AddYears(2)) {
       question = kFutureDate;
@@ -478,18 +493,19 @@ bool InvoiceEntry::Fail(std::string& InvalidReason, const std::string& reason, i
 bool InvoiceEntry::CheckCurrentRow(std::string& reason, bool& incomplete, int& column) {
   const platform::GridEngine& engine = grid_.Engine();
   if (!engine.CurrentRow()) return true;
-  const bool no_date = Trimmed(engine.CellText(Col::kDateColumn)).empty();
+  const DateMask typed_date = DateMask::FromText(engine.CellText(Col::kDateColumn));
+  const bool no_date = typed_date.IsBlank();
   const std::string number = Trimmed(engine.CellText(Col::kNumberColumn));
   const bool no_amount = Trimmed(engine.CellText(Col::kAmountColumn)).empty();
   const bool no_gst = Trimmed(engine.CellText(Col::kGSTColumn)).empty();
   if (no_date && number.empty() && no_amount && (!BusinessMode() || no_gst)) return true;
   incomplete = true;
-  if (no_date) return reason = kDateRequired, column = Col::kDateColumn, false;
+  // A date typed only in part is no date yet.
+  if (!typed_date.Value()) return reason = kDateRequired, column = Col::kDateColumn, false;
   if (number.empty()) return reason = kNumberRequired, column = Col::kNumberColumn, false;
   if (no_amount) return reason = kAmountRequired, column = Col::kAmountColumn, false;
   incomplete = false;
-  const Variant date = engine.CellValue(Col::kDateColumn);
-  if (date.ToDate() > host_.Today().AddYears(2)) return reason = kTooFarAhead, column = Col::kDateColumn, false;
+  if (*typed_date.Value() > host_.Today().AddYears(2)) return reason = kTooFarAhead, column = Col::kDateColumn, false;
   incomplete = true;
   if (BusinessMode() && !ForeignMode() && no_gst) return reason = kGSTRequired, column = Col::kGSTColumn, false;
   incomplete = false;

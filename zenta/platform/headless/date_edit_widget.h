@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "zenta/core/date_mask.h"
 #include "zenta/platform/date_edit.h"
 #include "zenta/platform/headless/widget_base.h"
 
@@ -32,7 +33,7 @@ class DateEditWidget : public WidgetBase<platform::DateEdit> {
   void FocusLost() override;
 
  private:
-  std::string digits_;
+  DateMask mask_;
   // What the field held as a date before the user started on the current text.
   std::optional<Date> last_valid_;
   bool refused_ = false;
