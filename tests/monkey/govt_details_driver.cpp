@@ -15,6 +15,7 @@ class GovtDetailsDriver : public Driver {
     control_ = std::make_unique<GovtDetails>(world.surface, world.host);
     control_->ReadProperties(headless::MemoryPropertyBag());
   }
+  void Destroy() override { control_.reset(); }
   std::string HostPut(Random& random) override {
     switch (random() % 8) {
       case 0: return Put([&] { control_->SetPeriodFrom(RandomDate(random)); }, {DateRefusal()});

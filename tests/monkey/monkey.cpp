@@ -173,6 +173,11 @@ std::string Play(Driver& driver, std::uint64_t seed, int events) {
   Random random(seed);
   World world;
   driver.Create(world);
+  // The control holds on to its surface: it goes first.
+  struct Destroyed {
+    Driver& driver;
+    ~Destroyed() { driver.Destroy(); }
+  } destroyed{driver};
   world.next_field = &world.form.AddHostField("txtHostNext");
   world.form.Show();
   int event = 0;

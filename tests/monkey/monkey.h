@@ -38,8 +38,9 @@ class Driver {
  public:
   virtual ~Driver() = default;
   virtual std::string Name() const = 0;
-  // Creates the control on `world.surface`.
+  // Creates the control on `world.surface`; Destroy deletes it, before the world goes.
   virtual void Create(World& world) = 0;
+  virtual void Destroy() = 0;
   // One random property put or method call as a host makes them; returns a finding ("" for
   // none). Use Put() so that only the put's documented refusals may raise.
   virtual std::string HostPut(Random& random) = 0;

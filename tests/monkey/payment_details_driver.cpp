@@ -16,6 +16,7 @@ class PaymentDetailsDriver : public Driver {
     control_->ReadProperties(headless::MemoryPropertyBag());
     control_->SetDefaultGLAccount("5100");
   }
+  void Destroy() override { control_.reset(); }
   std::string HostPut(Random& random) override {
     switch (random() % 7) {
       case 0: return Put([&] { control_->SetPaymentAmount(RandomAmount(random)); }, {kOverflow});

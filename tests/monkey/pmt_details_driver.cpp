@@ -15,6 +15,7 @@ class PmtDetailsDriver : public Driver {
     control_ = std::make_unique<PmtDetails>(world.surface, world.host);
     control_->ReadProperties(headless::MemoryPropertyBag());
   }
+  void Destroy() override { control_.reset(); }
   std::string HostPut(Random& random) override {
     switch (random() % 6) {
       case 0: return Put([&] { control_->SetInvoiceDate(RandomDate(random)); }, {DateRefusal()});

@@ -17,6 +17,7 @@ class StdPaymentDriver : public Driver {
     gst_ = &world.surface.Get<platform::NumberEdit>("txtGSTAmount");
     control_->ReadProperties(headless::MemoryPropertyBag());
   }
+  void Destroy() override { control_.reset(); }
   std::string HostPut(Random& random) override {
     switch (random() % 5) {
       case 0: return Put([&] { control_->SetPaymentAmount(RandomSingle(random)); }, {kOverflow});
