@@ -128,6 +128,38 @@ TEST_F(InvoiceDistributionTest, TheLinesGridShowsTheCurrentInvoicesLinesAndDelet
   EXPECT_NE(reason.find("does not equal"), std::string::npos) << reason;
 }
 
+TEST_F(InvoiceDistributionTest, AForeignInvoiceSplitsItsCanadianAmountAndKeepsBothColumns) {
+  control.SetIPCurrency("USD");
+  control.SetCurrencyRate(1.35f);
+  control.SetupIPGrid();
+  control.AddInvoice(Day(2026, 2, 1), "US-1", Money("100"));
+  InDialog([&] {
+    EXPECT_EQ(Dialog().AmountToDistribute(), Money("135"));
+    // The whole Canadian amount is proposed, with its foreign amount beside it.
+    EXPECT_EQ(Dialog().Grid().Engine().DisplayedText(0, 3), "135.00");
+    EXPECT_EQ(Dialog().Grid().Engine().DisplayedText(0, 2), "100.00");
+    user.Click(Accept());
+  });
+  control.SetCurrentRow(1);
+  control.ShowDistribution();
+  form.Settle();
+  const auto invoice = control.InvoiceValues(1);
+  ASSERT_EQ(invoice->Distributions->Count(), 1);
+  EXPECT_EQ(invoice->Distributions->Item(Variant(1))->Amount, Money("135"));
+  std::string reason;
+  bool incomplete = false;
+  EXPECT_TRUE(control.IsDataValid(reason, incomplete)) << reason;
+
+  InDialog([&] {
+    EXPECT_EQ(Dialog().Grid().Engine().DisplayedText(0, 3), "135.00");
+    EXPECT_EQ(Dialog().Grid().Engine().DisplayedText(0, 2), "100.00");
+    user.Click(Cancel());
+  });
+  control.ShowDistribution();
+  form.Settle();
+  EXPECT_EQ(form.PendingDialogScripts(), 0u);
+}
+
 TEST_F(InvoiceDistributionTest, CancellingChangesNothingAndDeletingTheRowDropsItsLines) {
   control.AddInvoice(Day(2026, 2, 1), "A", Money("100"));
   control.AddInvoice(Day(2026, 2, 1), "B", Money("10"));

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "zenta/controls/distribution/rate_conversion.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/ole_color.h"
 #include "zenta/platform/grid_engine.h"
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kAccountColumn = 1;
 constexpr int kAmountColumn = 2;
+constexpr int kHomeColumn = 3;
 constexpr int kLastColumn = 3;
 constexpr int kMinimumRows = 5;
 constexpr std::int64_t kOverlap = 20;
@@ -88,11 +90,11 @@ std::shared_ptr<platform::Array2D> LinesForDialog(const clsDistributions& lines)
   return table;
 }
 
-void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines) {
+void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines, int amount_column) {
   lines.Clear();
   if (table.RowCount() == 0) return;
   for (int row = table.LowerBound(1); row <= table.UpperBound(1); ++row) {
-    const Variant& amount = table.Get(row, kAmountColumn);
+    const Variant& amount = table.Get(row, amount_column);
     if (IsEmptyCell(amount)) continue;
     const Variant& account = table.Get(row, kAccountColumn);
     lines.Add(Variant(), IsEmptyCell(account) ? std::string() : account.ToString(), amount.ToCurrency());
@@ -115,9 +117,52 @@ void StyleDialogLines(platform::GridEngine& lines) {
   lines.SetColors(row_colors);
 }
 
+namespace {
+
+bool ForeignLayout(const FrmDistribution& dialog) { return dialog.Model().AmountColumn() == kHomeColumn; }
+
+// The amount at the window's rate in the invoice's currency; none without a usable rate.
+std::optional<Currency> AtRate(const FrmDistribution& dialog, Currency home) {
+  try {
+    return FromHomeAmount(home, dialog.Model().CurrencyRate());
+  } catch (const HostError&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+void ToForeignLayout(const FrmDistribution& dialog, platform::Array2D& table, const std::vector<std::optional<Currency>>& foreign) {
+  if (!ForeignLayout(dialog) || table.RowCount() == 0) return;
+  for (int row = table.LowerBound(1); row <= table.UpperBound(1); ++row) {
+    const Variant amount = table.Get(row, kAmountColumn);
+    if (IsEmptyCell(amount)) continue;
+    const auto index = static_cast<std::size_t>(row - table.LowerBound(1));
+    std::optional<Currency> typed = index < foreign.size() ? foreign[index] : std::nullopt;
+    if (!typed) typed = AtRate(dialog, amount.ToCurrency());
+    table.Set(row, kHomeColumn, amount);
+    table.Set(row, kAmountColumn, typed ? Variant(*typed) : Variant());
+  }
+}
+
+std::vector<std::optional<Currency>> ForeignAmountsBack(const FrmDistribution& dialog, const platform::Array2D& table) {
+  std::vector<std::optional<Currency>> amounts;
+  if (!ForeignLayout(dialog) || table.RowCount() == 0) return amounts;
+  for (int row = table.LowerBound(1); row <= table.UpperBound(1); ++row) {
+    if (IsEmptyCell(table.Get(row, kHomeColumn))) continue;
+    const Variant& typed = table.Get(row, kAmountColumn);
+    amounts.push_back(IsEmptyCell(typed) ? std::nullopt : std::optional<Currency>(typed.ToCurrency()));
+  }
+  return amounts;
+}
+
 void ProposeWholeAmount(FrmDistribution& dialog, platform::Array2D& table, const std::string& account, Currency amount) {
   table.Set(table.LowerBound(1), kAccountColumn, Variant(account));
-  table.Set(table.LowerBound(1), kAmountColumn, Variant(amount));
+  table.Set(table.LowerBound(1), ForeignLayout(dialog) ? kHomeColumn : kAmountColumn, Variant(amount));
+  if (ForeignLayout(dialog)) {
+    const auto foreign = AtRate(dialog, amount);
+    table.Set(table.LowerBound(1), kAmountColumn, foreign ? Variant(*foreign) : Variant());
+  }
   dialog.Grid().Engine().Rebind();
   dialog.CalculateDistAmounts();
 }

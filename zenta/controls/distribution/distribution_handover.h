@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "zenta/controls/distribution/frm_distribution.h"
 #include "zenta/core/currency.h"
@@ -33,13 +35,22 @@ std::shared_ptr<platform::Array2D> LinesForDialog(const clsDistributions& lines)
 
 // The accepted table back into `lines`: cleared, then one line per row whose amount is not
 // empty, in row order, with no key.
-void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines);
+void CopyLinesBack(const platform::Array2D& table, clsDistributions& lines, int amount_column = 2);
 
 Currency SumOfLines(const clsDistributions& lines);
 
 // The window's line grid as the grid controls show it: account and amount on pale green, rows
 // on light grey and white.
 void StyleDialogLines(platform::GridEngine& lines);
+
+// In the window's foreign-currency layout: each row's amount moves to the Canadian column (3)
+// and column 2 takes the foreign amount of `foreign` (by row), or the amount converted at the
+// window's rate when none is known. Nothing changes outside that layout.
+void ToForeignLayout(const FrmDistribution& dialog, platform::Array2D& table, const std::vector<std::optional<Currency>>& foreign);
+
+// The foreign amounts (column 2) of the rows CopyLinesBack keeps, in the same order; empty
+// outside the foreign-currency layout.
+std::vector<std::optional<Currency>> ForeignAmountsBack(const FrmDistribution& dialog, const platform::Array2D& table);
 
 // A distribution opened for the first time proposes the whole amount on the default account.
 void ProposeWholeAmount(FrmDistribution& dialog, platform::Array2D& table, const std::string& account, Currency amount);

@@ -441,10 +441,15 @@ void InvoiceEntry::ShowDistribution() {
     dialog.SetFXCurrencyCode(ip_currency_);
   }
   clsDistributions existing;
+  std::vector<std::optional<Currency>> foreign;
   if (const auto* lines = store_.Lines(row.id)) {
-    for (const InvoiceLine& line : *lines) existing.Add(line.ID, line.GLAccount, line.Amount);
+    for (const InvoiceLine& line : *lines) {
+      existing.Add(line.ID, line.GLAccount, line.Amount);
+      foreign.push_back(line.Foreign);
+    }
   }
   auto table = LinesForDialog(existing);
+  ToForeignLayout(dialog, *table, foreign);
   dialog.SetXTempDistribution(table);
   dialog.SetupForm();
   const Currency amount = Distributable(row);
@@ -458,10 +463,18 @@ void InvoiceEntry::ShowDistribution() {
   if (alive.expired() || !dialog.Chosen()) return;
   deleting_ = false;
   clsDistributions accepted;
-  if (const auto& back = dialog.XTempDistribution()) CopyLinesBack(*back, accepted);
+  std::vector<std::optional<Currency>> typed_foreign;
+  if (const auto& back = dialog.XTempDistribution()) {
+    CopyLinesBack(*back, accepted, dialog.Model().AmountColumn());
+    typed_foreign = ForeignAmountsBack(dialog, *back);
+  }
   std::vector<InvoiceLine> lines;
   lines.reserve(static_cast<std::size_t>(accepted.Count()));
-  for (const auto& line : accepted) lines.push_back({line->ID, line->GLAccount, line->Amount});
+  for (const auto& line : accepted) {
+    const std::size_t at = lines.size();
+    lines.push_back({line->ID, line->GLAccount, line->Amount,
+                     at < typed_foreign.size() ? typed_foreign[at] : std::nullopt});
+  }
   const std::int16_t id = store_.At(index).id;
   store_.SetLines(id, std::move(lines));
   store_.SetPaymentFor(index, Text(dialog.PaymentFor()));

@@ -18,7 +18,9 @@ namespace zenta {
 struct InvoiceLine {
   Variant ID;
   std::string GLAccount;
-  Currency Amount;
+  Currency Amount;  // Canadian dollars for a foreign-currency invoice
+  // A foreign-currency invoice's line in the invoice's currency, as typed or converted.
+  std::optional<Currency> Foreign;
 };
 
 // The invoice list and its distribution lines, sized for the 16-bit row numbers of the public
