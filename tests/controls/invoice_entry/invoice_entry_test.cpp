@@ -128,6 +128,19 @@ TEST_F(InvoiceEntryTest, TheHostVetoesADuplicateNumberAndAnAmountOverItsLimit) {
   std::string reason;
   bool incomplete = false;
   EXPECT_FALSE(control.IsDataValid(reason, incomplete));
+
+  // Refused on a stored business row: its amount, GST/HST and expense are all gone.
+  control.SetBusinessMode(true);
+  control.AddInvoice(Day(2026, 2, 1), "B", Money("113"), Variant(Money("13")));
+  host.ClearEvents();
+  user.ClickCell(Grid(), 0, InvoiceStore::kAmountColumn);
+  user.Type("200000\t");
+  EXPECT_EQ(Engine().CellText(InvoiceStore::kAmountColumn), "");
+  EXPECT_EQ(Engine().CellText(InvoiceStore::kGSTColumn), "");
+  EXPECT_EQ(Engine().CellText(InvoiceStore::kExpenseColumn), "");
+  EXPECT_EQ(control.TotalAmount(), Money("0"));
+  ASSERT_FALSE(Events().empty());
+  EXPECT_EQ(Events().back(), "Recalculate");
 }
 
 TEST_F(InvoiceEntryTest, DatesAheadOrLongAgoAreQuestionedAndDeletionIsConfirmed) {

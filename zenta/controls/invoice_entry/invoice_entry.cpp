@@ -283,7 +283,23 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
     Currency amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
     amount_refused_ = events_.ValidateInvoiceAmountLimit(amount);
     args.cancel = amount_refused_;
+    if (amount_refused_) ClearRefusedAmount(args);
   }
+}
+
+void InvoiceEntry::ClearRefusedAmount(platform::BeforeColUpdateArgs& args) {
+  // The host's limit leaves the row without amounts: the typed one, its GST/HST and expense.
+  platform::GridEngine& engine = grid_.Engine();
+  args.old_value = Variant(std::string());
+  engine.SetCellValue(Col::kGSTColumn, Variant(std::string()));
+  engine.SetCellValue(Col::kExpenseColumn, Variant(std::string()));
+  const auto current = engine.CurrentRow();
+  if (current && *current < store_.Count()) {
+    InvoiceStore::Row row = store_.At(*current);
+    row.amount.reset();
+    store_.Put(*current, std::move(row));
+  }
+  events_.Recalculate();
 }
 
 bool InvoiceEntry::Ask(const char* question, const char* title) {

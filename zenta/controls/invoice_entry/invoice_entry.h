@@ -170,6 +170,7 @@ class InvoiceEntry {
   bool Ask(const char* question, const char* title);
   void OnPosted(int message);
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
+  void ClearRefusedAmount(platform::BeforeColUpdateArgs& args);
   void OnKeyDown(platform::KeyDown& key);
   // Net expense (business) or the conversion (foreign) of store row `index`.
   void DeriveColumns(int index);
