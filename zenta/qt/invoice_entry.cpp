@@ -15,40 +15,18 @@ namespace zenta::qt {
 
 namespace {
 
-// The invoice list and, beside it, the lines of the current invoice, at their drawn sizes.
-constexpr int kMinWidth = 9060;
-constexpr int kMinHeight = 2415;
+// The invoice list is drawn at this width at least; the lines of the current invoice stand beside it.
 constexpr int kInvoiceGridWidth = 6120;
 constexpr int kGridGap = 60;
 // Room for a grid's frame and vertical scroll bar beside its columns.
 constexpr int kGridChrome = 420;
-
-class InvoiceBinding final : public ControlBinding {
- public:
-  explicit InvoiceBinding(zenta::InvoiceEntry& control) : c_(control) {}
-  void ReadProperties(const platform::PropertyBag& bag) override { c_.ReadProperties(bag); }
-  void WriteProperties(platform::PropertyBag& bag) const override { c_.WriteProperties(bag); }
-  int MinimumWidth() const override { return kMinWidth; }
-  int MinimumHeight() const override { return kMinHeight; }
-  OleColor BackColor() const override { return c_.BackColor(); }
-  void SetBackColor(OleColor color) override { c_.SetBackColor(color); }
-  bool BusinessMode() const override { return c_.BusinessMode(); }
-  void SetBusinessMode(bool on) override { c_.SetBusinessMode(on); }
-  OleColor BackColorTitle() const override { return c_.BackColorTitle(); }
-  void SetBackColorTitle(OleColor color) override { c_.SetBackColorTitle(color); }
-  bool Enabled() const override { return c_.Enabled(); }
-  void SetEnabled(bool enabled) override { c_.SetEnabled(enabled); }
-
- private:
-  zenta::InvoiceEntry& c_;
-};
 
 }  // namespace
 
 InvoiceEntry::InvoiceEntry(QWidget* parent)
     : ControlWidget(parent),
       control_(std::make_unique<zenta::InvoiceEntry>(Surface(), Host(), ApplicationContext())) {
-  Attach(std::make_unique<InvoiceBinding>(*control_));
+  Attach(std::make_unique<BindingTo<zenta::InvoiceEntry>>(*control_));
   Surface().OnResize([this] { FitGrid(); });
   // Columns shown, hidden or re-captioned (by the mode, SetupIPGrid or loaded properties) are
   // fitted once the call that changed them has returned: the control pumps events midway.
@@ -100,7 +78,7 @@ void InvoiceEntry::FitGrid() {
   const int height = static_cast<int>(Surface().Height() / scale);
   platform::TwipsRect rect = grid.Rect();
   rect.width = std::max(kInvoiceGridWidth, ColumnsWidth());
-  rect.height = std::max(kMinHeight, height - rect.top);
+  rect.height = std::max(zenta::InvoiceEntry::kMinimumHeight, height - rect.top);
   grid.SetRect(rect);
   if (lines) {
     platform::TwipsRect right = lines->Rect();
@@ -119,7 +97,7 @@ void InvoiceEntry::FitGrid() {
 QSize InvoiceEntry::minimumSizeHint() const {
   const QSize base = ControlWidget::minimumSizeHint();
   if (!control_) return base;
-  return base.expandedTo(Surface().FittedSize(NeededWidth(), kMinHeight));
+  return base.expandedTo(Surface().FittedSize(NeededWidth(), zenta::InvoiceEntry::kMinimumHeight));
 }
 
 QSize InvoiceEntry::sizeHint() const { return minimumSizeHint().expandedTo(ControlWidget::sizeHint()); }

@@ -52,6 +52,9 @@ class InvoiceEntry {
 
   static constexpr std::int32_t kMissingRow = 1000;
   static constexpr int kForeignGridWidth = 8280;
+  // The list and the lines beside it at their drawn sizes, in twips.
+  static constexpr int kMinimumWidth = 9060;
+  static constexpr int kMinimumHeight = 2415;
   static constexpr const char* kForeignRangeText =
       "That amount would cause the foreign currency amount to be invalid (it must be between "
       "-9,999,999.99 and 9,999,999.99)";
@@ -65,6 +68,8 @@ class InvoiceEntry {
 
   // The public interface, in its declared order.
   void Clear();
+  int MinimumWidth() const { return kMinimumWidth; }
+  int MinimumHeight() const { return kMinimumHeight; }
   OleColor BackColor() const { return properties_.back_color; }
   void SetBackColor(OleColor color);
   bool BusinessMode() const { return properties_.business_mode; }
