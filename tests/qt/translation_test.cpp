@@ -1,7 +1,9 @@
 #include <QLabel>
+#include <QTableView>
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
@@ -32,6 +34,23 @@ class TranslationTest : public QObject {
     PmtDetails french;
     QCOMPARE(Caption(french, "lblInvoiceAmount"), QString("Montant de la facture"));
     QCOMPARE(french.Surface().FindQWidget("txtInvoiceAmount")->accessibleName(), QString("Montant de la facture"));
+  }
+
+  void theInvoiceListSpeaksFrenchToo() {
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    InvoiceEntry list;
+    list.SetBusinessMode(true);
+    for (const char* name : {"grInvoices", "grDistribution"}) {
+      auto* grid = qobject_cast<QTableView*>(list.Surface().FindQWidget(name));
+      QVERIFY(grid);
+      const platform::GridEngine& engine =
+          std::string(name) == "grInvoices" ? list.Control().grInvoices().Engine() : list.Control().grDistribution().Engine();
+      for (int column = 0; column < engine.ColumnCount(); ++column) {
+        if (grid->isColumnHidden(column)) continue;
+        const QString shown = grid->model()->headerData(column, Qt::Horizontal).toString();
+        QVERIFY2(shown != QString::fromStdString(engine.Column(column).caption), qPrintable(shown));
+      }
+    }
   }
 
   void messagesAndTitlesAreTranslatedToo() {

@@ -211,5 +211,57 @@
         <source>Not a date: the previous date was kept.</source>
         <translation>Date invalide : la date précédente a été conservée.</translation>
     </message>
+    <message>
+        <source>Invoice Number / Description</source>
+        <translation>Numéro / description de la facture</translation>
+    </message>
+    <message>
+        <source>G/L Account</source>
+        <translation>Compte du grand livre</translation>
+    </message>
+    <message>
+        <source>Accounting Rate</source>
+        <translation>Taux comptable</translation>
+    </message>
+    <message>
+        <source>Invoice Amount (CAD)</source>
+        <translation>Montant de la facture (CAD)</translation>
+    </message>
+    <message>
+        <source>Delete this invoice?</source>
+        <translation>Supprimer cette facture?</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this invoice?</source>
+        <translation>Voulez-vous vraiment supprimer cette facture?</translation>
+    </message>
+    <message>
+        <source>Invoice Date Validation</source>
+        <translation>Validation de la date de facture</translation>
+    </message>
+    <message>
+        <source>Invoice Number/Description Validation</source>
+        <translation>Validation du numéro ou de la description de la facture</translation>
+    </message>
+    <message>
+        <source>You have entered future dated invoice, would you like to change it?</source>
+        <translation>Vous avez saisi une facture postdatée; voulez-vous la modifier?</translation>
+    </message>
+    <message>
+        <source>The Invoice Date you entered is more than a year earlier than the current date, would you like to change it?</source>
+        <translation>La date de facture saisie précède de plus d’un an la date du jour; voulez-vous la modifier?</translation>
+    </message>
+    <message>
+        <source>The Invoice Number/Description cannot be more than 255 characters.</source>
+        <translation>Le numéro ou la description de la facture ne peut dépasser 255 caractères.</translation>
+    </message>
+    <message>
+        <source>The Invoice Date cannot be set to more than two years into the future. Please adjust the date.</source>
+        <translation>La date de facture ne peut dépasser de plus de deux ans la date du jour. Veuillez corriger la date.</translation>
+    </message>
+    <message>
+        <source>That amount would cause the foreign currency amount to be invalid (it must be between -9,999,999.99 and 9,999,999.99)</source>
+        <translation>Ce montant rendrait le montant en devise invalide (il doit être compris entre -9 999 999,99 et 9 999 999,99)</translation>
+    </message>
 </context>
 </TS>
