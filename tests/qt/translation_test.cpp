@@ -8,6 +8,7 @@
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/qt/toolkit/ui_text.h"
 #include "zenta/qt/translator.h"
 #include "zenta/records/cls_distributions.h"
 
@@ -51,6 +52,13 @@ class TranslationTest : public QObject {
         QVERIFY2(shown != QString::fromStdString(engine.Column(column).caption), qPrintable(shown));
       }
     }
+  }
+
+  void captionsBuiltWithACurrencyCodeKeepTheCode() {
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    QCOMPARE(UiText("Invoice Amount (USD)"), QString("Montant de la facture (USD)"));
+    QCOMPARE(UiText("Nothing known (USD)"), QString("Nothing known (USD)"));
+    QCOMPARE(UiText("(USD)"), QString("(USD)"));
   }
 
   void messagesAndTitlesAreTranslatedToo() {
