@@ -9,6 +9,7 @@
 #include "zenta/core/host_error.h"
 #include "zenta/core/utf8.h"
 #include "zenta/platform/grid_navigation.h"
+#include "zenta/platform/typed_key.h"
 
 namespace zenta::platform {
 namespace {
@@ -24,6 +25,7 @@ class FakeView : public GridView {
   void EditorOpened() override { ++editor_opened; }
   void EditorChanged() override {}
   void EditorClosed() override { ++editor_closed; }
+  int VisibleRows() const override { return visible_rows; }
   bool HasFocus() const override { return true; }
   void TakeFocus() override {}
   void Post(std::function<void()> action) override { posted.push_back(std::move(action)); }
@@ -39,6 +41,7 @@ class FakeView : public GridView {
   std::deque<std::function<void()>> posted;
   int editor_opened = 0;
   int editor_closed = 0;
+  int visible_rows = 10;
 };
 
 // Three columns over rows 0..2 of an array: an account, an amount and a third text column.
@@ -59,7 +62,7 @@ class GridEngineTest : public ::testing::Test {
   }
   void Type(std::string_view text) {
     for (char32_t c : utf8::Decode(text)) {
-      KeyDown key{static_cast<int>(c >= U'a' && c <= U'z' ? c - 32 : c), kNoShift};
+      KeyDown key = c == U'\t' ? KeyDown{keys::kTab, kNoShift} : KeyDownFor(c);
       engine.KeyDown(key);
       if (key.key_code != 0) engine.TypeCharacter(c);
     }
@@ -245,6 +248,24 @@ TEST_F(GridEngineTest, ADateCellTypesThroughItsMaskAndStoresADateOrNothing) {
   EXPECT_EQ(engine.EditText(), "____/__/__");
   Key(keys::kDown);
   EXPECT_TRUE(array->Get(0, 2).IsEmpty());
+}
+
+TEST_F(GridEngineTest, PageKeysTurnAPageLessOneRowAndStopAtTheEnds) {
+  auto rows = std::make_shared<Array2D>(0, 29, 0, 2);
+  engine.Bind(rows);
+  view.visible_rows = 10;
+  Key(keys::kPageDown);
+  EXPECT_EQ(engine.CurrentRow(), 9);
+  EXPECT_EQ(last_key_left, 0);
+  Key(keys::kPageDown);
+  Key(keys::kPageDown);
+  Key(keys::kPageDown);
+  EXPECT_EQ(engine.CurrentRow(), 29);
+  Key(keys::kPageUp);
+  EXPECT_EQ(engine.CurrentRow(), 20);
+  view.visible_rows = 0;  // a grid too short to show a row still moves one
+  Key(keys::kPageUp);
+  EXPECT_EQ(engine.CurrentRow(), 19);
 }
 
 TEST_F(GridEngineTest, LockedAndButtonCellsTakeNoTypingAndButtonsClick) {

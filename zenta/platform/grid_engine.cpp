@@ -539,6 +539,16 @@ void GridEngine::Navigate(platform::KeyDown& key) {
   MoveTo(next->row, next->column);
 }
 
+void GridEngine::PageBy(int pages) {
+  if (!current_row_) return;
+  // The row that stays in sight when the page turns counts once.
+  const int page = std::max(1, view_.VisibleRows() - 1);
+  const int first = FirstRow();
+  const int last = std::max(first, first + DisplayRowCount() - 1);
+  const int target = std::clamp(*current_row_ + pages * page, first, last);
+  if (target != *current_row_) MoveTo(target, current_column_);
+}
+
 void GridEngine::MoveAcross(platform::KeyDown& key, int step) {
   if (editing_) {
     const int size = Length(edit_text_);
@@ -587,6 +597,13 @@ void GridEngine::KeyDown(platform::KeyDown& key) {
     case keys::kRight:
       MoveAcross(key, key.key_code == keys::kLeft ? -1 : 1);
       return;
+    case keys::kPageUp:
+    case keys::kPageDown: {
+      const int pages = key.key_code == keys::kPageDown ? 1 : -1;
+      key.key_code = 0;
+      PageBy(pages);
+      return;
+    }
     case keys::kF2:
       key.key_code = 0;
       StartEdit();

@@ -35,6 +35,8 @@ class GridView {
   virtual void EditorOpened() = 0;
   virtual void EditorChanged() = 0;
   virtual void EditorClosed() = 0;
+  // How many rows the view shows whole: a page for PageUp and PageDown.
+  virtual int VisibleRows() const = 0;
   // Whether the grid (or its in-cell editor) holds the keyboard focus.
   virtual bool HasFocus() const = 0;
   virtual void TakeFocus() = 0;
@@ -66,7 +68,8 @@ class GridView {
 //    row; after_delete runs.
 //  - Enter and Tab left intact by key_down move to the next cell with a tab stop (Enter stays
 //    in the last cell, Tab leaves the grid from it); Up and Down change the row; Left and
-//    Right move across cells while no edit is open; F2 opens an edit with the caret at the
+//    Right move across cells while no edit is open; PageUp and PageDown move the current row by
+//    a page less one row (storing the row left, as Up and Down do); F2 opens an edit with the caret at the
 //    end; Escape abandons an open edit (with none open, the row's pending cells; with nothing
 //    to abandon it is left to the window); Ctrl+Delete deletes when AllowDelete; Space or
 //    Enter on a button cell clicks it.
@@ -196,6 +199,7 @@ class GridEngine {
   // What a committed edit stores in `column`.
   Variant EditedValue(int column) const;
   void Navigate(platform::KeyDown& key);
+  void PageBy(int pages);
   void MoveAcross(platform::KeyDown& key, int step);
   void ReportError(const std::exception& error, int number);
   // Whether the engine is still alive after a handler ran (a handler may destroy the grid).

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "zenta/platform/grid.h"
 #include "zenta/platform/headless/widget_base.h"
 
@@ -19,6 +21,7 @@ class GridWidget : public WidgetBase<platform::Grid>, public platform::GridView 
   const platform::GridEngine& Engine() const override { return engine_; }
   int FirstRowTop() const override { return Rect().top + kHeaderHeight; }
   int RowHeight() const override { return kRowHeight; }
+  int VisibleRows() const override { return std::max(1, (Rect().height - kHeaderHeight) / kRowHeight); }
 
   // GridView: nothing to repaint in memory.
   void RowsChanged() override {}

@@ -222,11 +222,6 @@ void QtGridView::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
-  if (event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp) {
-    PageBy(event->key() == Qt::Key_PageDown ? 1 : -1);
-    event->accept();
-    return;
-  }
   if (key.key_code == platform::keys::kEnter) {
     engine_->TypeCharacter(U'\r');
   } else if (key.key_code == platform::keys::kBackspace) {
@@ -239,16 +234,8 @@ void QtGridView::keyPressEvent(QKeyEvent* event) {
   event->accept();
 }
 
-void QtGridView::PageBy(int pages) {
-  // A page is the rows the viewport shows whole; the engine stores the row being left, as for
-  // a step with the arrow keys.
-  const std::optional<int> row = engine_->CurrentRow();
-  if (!row) return;
-  const int page = std::max(1, viewport()->height() / std::max(1, verticalHeader()->defaultSectionSize()) - 1);
-  const int first = engine_->FirstRow();
-  const int last = first + engine_->DisplayRowCount() - 1;
-  const int target = std::clamp(*row + pages * page, first, std::max(first, last));
-  if (target != *row) engine_->SetCurrentRow(target);
+int QtGridView::VisibleRows() const {
+  return viewport()->height() / std::max(1, verticalHeader()->defaultSectionSize());
 }
 
 void QtGridView::mousePressEvent(QMouseEvent* event) {

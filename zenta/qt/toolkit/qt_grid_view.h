@@ -36,6 +36,7 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   bool HasFocus() const override { return hasFocus(); }
   void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
   void Post(std::function<void()> action) override;
+  int VisibleRows() const override;
 
   // The width in pixels that shows every visible column with its whole caption.
   int CaptionsWidth() const;
@@ -56,7 +57,7 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void FitColumns();
   bool HasFooter() const;
   // PageUp and PageDown the engine leaves alone: the current row moves by a screenful.
-  void PageBy(int pages);
+
 
   GridEngineModel* model_;
   GridFooter* footer_ = nullptr;
