@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "tests/qt/host_window.h"
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/qt/application_context.h"
 #include "zenta/platform/array_2d.h"
@@ -41,12 +42,8 @@ class DistributionDialogTest : public QObject {
 
  private slots:
   void init() {
-    window_ = std::make_unique<QWidget>();
-    auto* layout = new QVBoxLayout(window_.get());
-    payment_ = new PaymentDetails;
-    layout->addWidget(payment_);
-    window_->show();
-    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    payment_ = testing::ShowInHostWindow<PaymentDetails>(window_);
+    QVERIFY(payment_);
     payment_->SetPaymentAmount(Money("150"));
   }
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <limits>
 
+#include "tests/qt/host_window.h"
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -21,12 +22,8 @@ class GovtDetailsTest : public QObject {
 
  private slots:
   void init() {
-    window_ = std::make_unique<QWidget>();
-    auto* layout = new QVBoxLayout(window_.get());
-    remittance_ = new GovtDetails;
-    layout->addWidget(remittance_);
-    window_->show();
-    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    remittance_ = testing::ShowInHostWindow<GovtDetails>(window_);
+    QVERIFY(remittance_);
   }
 
   void cleanup() { window_.reset(); }

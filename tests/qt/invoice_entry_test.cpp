@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "zenta/qt/invoice_entry.h"
+#include "tests/qt/host_window.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -75,14 +76,8 @@ class InvoiceEntryTest : public QObject {
 
  private slots:
   void init() {
-    window_ = std::make_unique<QWidget>();
-    auto* layout = new QVBoxLayout(window_.get());
-    invoices_ = new InvoiceEntry;
-    next_field_ = new QLineEdit;
-    layout->addWidget(invoices_);
-    layout->addWidget(next_field_);
-    window_->show();
-    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    invoices_ = testing::ShowInHostWindow<InvoiceEntry>(window_, &next_field_);
+    QVERIFY(invoices_);
   }
 
   void cleanup() { window_.reset(); }
@@ -112,16 +107,7 @@ class InvoiceEntryTest : public QObject {
     invoices_->SetDefaultGLAccount("5100");
     QList<short> announced;
     connect(invoices_, &InvoiceEntry::FirstDistributionEntered, this, [&announced](short& TheRow) { announced << TheRow; });
-    DialogScript split([](QtDialogSurface& dialog) {
-      QWidget* lines = dialog.FindQWidget("grTempDistribution");
-      QVERIFY(ClickCell(lines, 0, 2));
-      TypeKeys("6000");
-      PressKey(Qt::Key_Tab);
-      QVERIFY(ClickCell(lines, 4, 1));
-      TypeKeys("5200");
-      PressKey(Qt::Key_Tab);
-      testing::Click(dialog.FindQWidget("cmdGLAccept"));
-    });
+    DialogScript split(testing::SplitSixtyForty);
     QVERIFY(ClickCell(Grid(), 0, kDate));
     TypeKeys(Today());
     PressKey(Qt::Key_Tab);

@@ -8,6 +8,7 @@
 
 #include "tests/qt/distribution_lines.h"
 #include "zenta/qt/payment_details.h"
+#include "tests/qt/host_window.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -34,13 +35,8 @@ class PaymentDetailsTest : public QObject {
 
  private slots:
   void init() {
-    window_ = std::make_unique<QWidget>();
-    auto* layout = new QVBoxLayout(window_.get());
-    payment_ = new PaymentDetails;
-    layout->addWidget(payment_);
-    layout->addWidget(new QLineEdit);
-    window_->show();
-    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    payment_ = testing::ShowInHostWindow<PaymentDetails>(window_);
+    QVERIFY(payment_);
   }
 
   void cleanup() { window_.reset(); }
@@ -50,16 +46,7 @@ class PaymentDetailsTest : public QObject {
     payment_->SetDefaultGLAccount("5100");
     QSignalSpy balanced(payment_, &PaymentDetails::GLBalanced);
     QSignalSpy amount(payment_, &PaymentDetails::PaymentAmountChanged);
-    DialogScript split([](QtDialogSurface& dialog) {
-      QWidget* lines = dialog.FindQWidget("grTempDistribution");
-      QVERIFY(ClickCell(lines, 0, 2));
-      TypeKeys("6000");
-      PressKey(Qt::Key_Tab);
-      QVERIFY(ClickCell(lines, 4, 1));
-      TypeKeys("5200");
-      PressKey(Qt::Key_Tab);
-      testing::Click(dialog.FindQWidget("cmdGLAccept"));
-    });
+    DialogScript split(testing::SplitSixtyForty);
     QVERIFY(ClickCell(Grid(), 0, 0));
     TypeKeys("11300");
     PressKey(Qt::Key_Tab);

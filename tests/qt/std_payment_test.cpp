@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <limits>
 
+#include "tests/qt/host_window.h"
 #include "tests/qt/key_input.h"
 #include "zenta/qt/std_payment.h"
 #include "zenta/qt/toolkit/qt_surface.h"
@@ -24,13 +25,8 @@ class StdPaymentTest : public QObject {
 
  private slots:
   void init() {
-    window_ = std::make_unique<QWidget>();
-    auto* layout = new QVBoxLayout(window_.get());
-    payment_ = new StdPayment;
-    layout->addWidget(payment_);
-    layout->addWidget(new QLineEdit);
-    window_->show();
-    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    payment_ = testing::ShowInHostWindow<StdPayment>(window_);
+    QVERIFY(payment_);
   }
 
   void cleanup() {
