@@ -198,7 +198,12 @@ void InvoiceEntry::SetEmailFilename(short TheRow, const QString& TheEmailAddress
   Guard([&] { control_->SetEmailFilename(TheRow, FromQString(TheEmailAddress)); });
 }
 
-short InvoiceEntry::InvoiceCount_DetailLines() const { return control_->InvoiceCount_DetailLines(); }
+short InvoiceEntry::InvoiceCount_DetailLines() const {
+  // More than 32,767 lines is Overflow, reported to the host like every other refusal.
+  short lines = 0;
+  Guard([&] { lines = control_->InvoiceCount_DetailLines(); });
+  return lines;
+}
 short InvoiceEntry::InvoiceCount() const { return control_->InvoiceCount(); }
 
 void InvoiceEntry::DeleteByEmailFilename(const QString& strFilename) {
@@ -242,7 +247,6 @@ void InvoiceEntry::SetupIPGrid() {
   Guard([&] { control_->SetupIPGrid(); });
   FitGrid();
 }
-
 
 #define ZENTA_COLOR_PROPERTY(Name)                                                                   \
   QColor InvoiceEntry::Name() const { return ToQColor(control_->Name(), palette()); }               \
