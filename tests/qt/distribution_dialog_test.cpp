@@ -1,4 +1,6 @@
+#include <QApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTableView>
@@ -76,6 +78,84 @@ class DistributionDialogTest : public QObject {
     QCOMPARE(text, QString("The total amounts you enter must be equal to the 'Amount to Distribute'."));
     QCOMPARE(refund, QColor(Qt::red));
     QCOMPARE(Lines(), (QStringList{"5100 100", "5200 70", "5300 -20"}));
+  }
+
+  // A payer at the keyboard, key by key: each split reaches Accept and books the exact total.
+  void aSplitTypedByKeysReachesAccept_data() {
+    QTest::addColumn<QStringList>("kept");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QStringList>("booked");
+    // "|" is Tab, ">" Right; the window opens on Accept, two Shift+Tabs reach the grid.
+    QTest::newRow("60/40") << QStringList{"5100 150"} << ">9000|5200||" << QStringList{"5100 90", "5200 60"};
+    QTest::newRow("50/30/20") << QStringList{"5100 150"} << ">5000|5200|3000|5300||"
+                              << QStringList{"5100 50", "5200 30", "5300 70"};
+    QTest::newRow("kept 100/50 to 110/40") << QStringList{"5100 100", "5200 50"} << ">11000||4000|"
+                                           << QStringList{"5100 110", "5200 40"};
+  }
+
+  void aSplitTypedByKeysReachesAccept() {
+    QFETCH(QStringList, kept);
+    QFETCH(QString, keys);
+    QFETCH(QStringList, booked);
+    auto lines = std::make_shared<clsDistributions>();
+    for (const QString& line : kept) {
+      lines->Add(Variant(), line.section(' ', 0, 0).toStdString(), Money(line.section(' ', 1).toUtf8().constData()));
+    }
+    payment_->Control().SetPayDistribution(lines);
+    QString focused_at_end;
+    QString remaining;
+    QString footer_total;
+    DialogScript type([&](QtDialogSurface& dialog) {
+      QCOMPARE(QApplication::focusWidget(), dialog.FindQWidget("cmdGLAccept"));
+      PressKey(Qt::Key_Backtab, Qt::ShiftModifier);
+      PressKey(Qt::Key_Backtab, Qt::ShiftModifier);
+      QCOMPARE(QApplication::focusWidget(), dialog.FindQWidget("grTempDistribution"));
+      for (QChar key : keys) {
+        if (key == '|') {
+          PressKey(Qt::Key_Tab);
+        } else if (key == '>') {
+          PressKey(Qt::Key_Right);
+        } else {
+          TypeKeys(QString(key));
+        }
+      }
+      focused_at_end = QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+      if (auto* label = qobject_cast<QLabel*>(dialog.FindQWidget("lblRemaining"))) remaining = label->text();
+      PressKey(Qt::Key_Enter);
+    });
+    payment_->ShowDistribution();
+    QVERIFY(type.Ran());
+    QCOMPARE(focused_at_end, QString("cmdGLAccept"));
+    QCOMPARE(remaining, QString("Remaining 0.00"));
+    QCOMPARE(Lines(), booked);
+  }
+
+  void theCursorAndFocusAreWhereTheyAreDrawn() {
+    Keep({{"5100", "150"}});
+    int current_column = -1;
+    bool grid_focused = true;
+    QString button_tip;
+    QString button_text;
+    QString after_ctrl_tab;
+    DialogScript look([&](QtDialogSurface& dialog) {
+      auto* lines = qobject_cast<QTableView*>(dialog.FindQWidget("grTempDistribution"));
+      QVERIFY(lines);
+      current_column = lines->currentIndex().column();
+      grid_focused = lines->hasFocus();
+      button_text = lines->model()->index(0, 0).data(Qt::DisplayRole).toString();
+      button_tip = lines->model()->index(0, 0).data(Qt::ToolTipRole).toString();
+      QVERIFY(ClickCell(lines, 0, 1));
+      PressKey(Qt::Key_Tab, Qt::ControlModifier);
+      after_ctrl_tab = QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+      testing::Click(dialog.FindQWidget("cmdGLCancel"));
+    });
+    payment_->ShowDistribution();
+    QVERIFY(look.Ran());
+    QCOMPARE(current_column, 1);
+    QVERIFY(!grid_focused);
+    QCOMPARE(button_text, QString("X"));
+    QCOMPARE(button_tip, QString("Delete this line"));
+    QCOMPARE(after_ctrl_tab, QString("txtPaymentFor"));
   }
 
   void escapeCancelsAndKeepsTheCallersLines() {

@@ -39,6 +39,10 @@ struct GridColumn {
   std::string footer_text;
   // Tooltip of the column's in-cell editor.
   std::string editor_tooltip;
+  // A button column's cells: the text on each button (rows that exist, not the add-new row)
+  // and what it does, for its tooltip and the name assistive tools read.
+  std::string button_text;
+  std::string button_tooltip;
   std::optional<OleColor> back_color;
   std::optional<OleColor> fore_color;
   std::vector<CellStyleRule> styles;

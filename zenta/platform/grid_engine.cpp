@@ -280,6 +280,8 @@ CellAppearance GridEngine::Appearance(int row, int column) const {
     args.text = ValueText(args.value);
     if (handlers_.format_text) handlers_.format_text(args);
     appearance.text = std::move(args.text);
+    const bool button = column >= 0 && column < ColumnCount() && Column(column).kind == ColumnKind::Button;
+    if (button && appearance.text.empty() && !IsAddNewRow(row)) appearance.text = Column(column).button_text;
   }
   appearance.back_color = (row - FirstRow()) % 2 == 0 ? colors_.even_row_back : colors_.odd_row_back;
   if (column < 0 || column >= ColumnCount()) return appearance;

@@ -29,6 +29,9 @@ std::optional<GridCell> NextGridCell(GridCell from, int first_row, int last_row,
   if (key.key_code == keys::kDown) return GridCell{from.row < last_row ? from.row + 1 : from.row, from.column};
   if (key.key_code != keys::kEnter && key.key_code != keys::kTab) return std::nullopt;
   const bool tab = key.key_code == keys::kTab;
+  // Ctrl+Tab and Ctrl+Shift+Tab leave the grid from any cell: the way out of a widget that
+  // keeps Tab for itself.
+  if (tab && (key.shift & kCtrl) != 0) return std::nullopt;
   const int width = static_cast<int>(stops.size());
   if ((key.shift & kShift) != 0) {
     if (auto column = PreviousStop(stops, from.column)) return GridCell{from.row, *column};

@@ -265,8 +265,7 @@ TEST(DistributionConversionLimits, OutOfRangeRaisesRatherThanWraps) {
 struct FillCase {
   const char* name;
   std::vector<Line> lines;
-  int initial_last_row;  // rows up to here were the caller's
-  std::optional<int> current_row;
+  std::optional<int> changed_row;  // the line just stored
   bool changed;
   std::vector<const char*> amounts;  // column 2 of every row afterwards ("" unset)
 };
@@ -276,20 +275,11 @@ class DistributionFill : public ::testing::TestWithParam<FillCase> {};
 TEST_P(DistributionFill, LeavesTheLinesAddingUpToTheAmount) {
   const FillCase& c = GetParam();
   Model model;
-  const auto kept = static_cast<std::size_t>(std::max(0, c.initial_last_row + 1));
-  std::vector<Line> initial;
-  for (std::size_t i = 0; i < kept && i < c.lines.size(); ++i) initial.push_back(c.lines[i]);
-  auto table = TableOf(initial);
+  auto table = TableOf(c.lines);
   model.SetTable(table);
   model.SetAmountToDistribute(Money("100"));
-  for (std::size_t i = static_cast<std::size_t>(c.initial_last_row + 1); i < c.lines.size(); ++i) {
-    table->AppendRows(1);
-    const int row = table->UpperBound(1);
-    if (c.lines[i].account) table->Set(row, Model::kAccountColumn, Variant(c.lines[i].account));
-    table->Set(row, Model::kPaymentColumn, c.lines[i].payment);
-  }
   model.CalculateDistAmounts();
-  EXPECT_EQ(model.FillRemainingAmount(c.current_row), c.changed);
+  EXPECT_EQ(model.FillRemainingAmount(c.changed_row), c.changed);
   ASSERT_EQ(table->RowCount(), static_cast<int>(c.amounts.size()));
   for (int row = 0; row < table->RowCount(); ++row) {
     const Variant cell = table->Get(row, Model::kPaymentColumn);
@@ -300,28 +290,30 @@ TEST_P(DistributionFill, LeavesTheLinesAddingUpToTheAmount) {
       EXPECT_EQ(cell.ToCurrency(), Money(expected)) << "row " << row;
     }
   }
-  if (c.changed) {
-    EXPECT_EQ(model.CalculateDistAmounts(), Money("100"));
-  }
+  EXPECT_EQ(model.CalculateDistAmounts(), Money("100"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, DistributionFill,
     ::testing::Values(
-        FillCase{"AppendsAfterALineWithAccount", {{"A", "60", {}}}, 0, 0, true, {"60", "40"}},
-        FillCase{"AppendsWhenTheCursorIsPastTheTable", {{"A", "60", {}}, {nullptr, {}, {}}}, 1, 2, true,
-                 {"60", "", "40"}},
-        FillCase{"AppendsToAnEmptyTable", {}, -1, std::nullopt, true, {"100"}},
-        FillCase{"NothingLeftAppendsNothing", {{"A", "100", {}}}, 0, 0, false, {"100"}},
-        FillCase{"RecomputesTheFillLine", {{"A", "60", {}}, {"B", "30", {}}, {nullptr, "40", {}}}, 1, 2, true,
+        FillCase{"AppendsAfterTheLastLine", {{"A", "60", {}}}, 0, true, {"60", "40"}},
+        FillCase{"TakesTheNextEmptyLineNotTheLastOfAPaddedTable",
+                 {{"A", "60", {}}, {}, {}, {}, {}}, 0, true, {"60", "40", "", "", ""}},
+        FillCase{"TakesTheFirstEmptyLineAfterTheOneStored",
+                 {{"A", "10", {}}, {}, {"B", "20", {}}, {}}, 2, true, {"10", "", "20", "70"}},
+        FillCase{"AppendsToAnEmptyTable", {}, std::nullopt, true, {"100"}},
+        FillCase{"NothingLeftAppendsNothing", {{"A", "100", {}}}, 0, false, {"100"}},
+        FillCase{"RecomputesTheRemainderLine", {{"A", "60", {}}, {"B", "30", {}}, {nullptr, "40", {}}}, 1, true,
                  {"60", "30", "10"}},
-        FillCase{"RecomputesTheFirstFillLineOnly",
-                 {{"A", "50", {}}, {nullptr, "20", {}}, {nullptr, "10", {}}}, 0, 1, true, {"50", "40", "10"}},
-        FillCase{"NeverRewritesTheCallersLines", {{nullptr, "30", {}}, {nullptr, {}, {}}}, 1, 0, true, {"30", "70"}},
-        FillCase{"CallersAmountLastStaysUntouched", {{"A", "50", {}}, {nullptr, "30", {}}}, 1, 0, false,
-                 {"50", "30"}},
-        FillCase{"FillsAnEmptyLastLine", {{"A", "60", {}}, {nullptr, {}, {}}}, 0, 1, true, {"60", "40"}},
-        FillCase{"OverDistributedGivesANegativeFill", {{"A", "130", {}}}, 0, 0, true, {"130", "-30"}}),
+        FillCase{"RecomputesARemainderLineAboveTheOneStored",
+                 {{"A", "50", {}}, {nullptr, "20", {}}, {"B", "20", {}}}, 2, true, {"50", "30", "20"}},
+        FillCase{"RecomputesTheCallersOwnRemainderLine", {{nullptr, "30", {}}, {"A", "20", {}}}, 1, true,
+                 {"80", "20"}},
+        FillCase{"AZeroRemainderEmptiesItsLine", {{"A", "60", {}}, {"B", "40", {}}, {nullptr, "10", {}}}, 1, true,
+                 {"60", "40", ""}},
+        FillCase{"AnUpToDateRemainderChangesNothing", {{"A", "60", {}}, {nullptr, "40", {}}}, 0, false,
+                 {"60", "40"}},
+        FillCase{"OverDistributedGivesANegativeRemainder", {{"A", "130", {}}}, 0, true, {"130", "-30"}}),
     [](const auto& param_info) { return std::string(param_info.param.name); });
 
 TEST(DistributionFillFx, PutsTheCanadianRemainderAndItsForeignAmount) {
@@ -338,18 +330,21 @@ TEST(DistributionFillFx, PutsTheCanadianRemainderAndItsForeignAmount) {
   EXPECT_EQ(table->Get(1, Model::kPaymentColumn).ToCurrency(), Money("60"));
 }
 
-TEST(DistributionFillRule, AStoredRowAsksForTheFillOrTheAcceptButton) {
-  using After = Model::AfterStore;
+TEST(DistributionRemaining, CountsThePayersLinesNotTheRemainderLine) {
   Model model;
-  model.SetTable(TableOf({{"A", "60", {}}}));
+  auto table = TableOf({{"A", "60", {}}, {nullptr, "40", {}}});
+  model.SetTable(table);
   model.SetAmountToDistribute(Money("100"));
-  model.CalculateDistAmounts();
-  EXPECT_EQ(model.AfterRowStored("A", ""), After::Fill);
-  EXPECT_EQ(model.AfterRowStored("", "60"), After::Fill);
-  EXPECT_EQ(model.AfterRowStored("", ""), After::Nothing);
-  model.SetAmountToDistribute(Money("60"));
-  EXPECT_EQ(model.AfterRowStored("A", "60"), After::FocusAccept);
-  EXPECT_EQ(model.AfterRowStored("", "60"), After::Nothing);
+  EXPECT_EQ(model.RemainderRow(), 1);
+  EXPECT_EQ(model.Remaining(), Money("40"));
+  EXPECT_FALSE(model.LinesAddUp());
+  // An account makes the remainder line one of the payer's.
+  table->Set(1, Model::kAccountColumn, Variant("B"));
+  EXPECT_EQ(model.RemainderRow(), std::nullopt);
+  EXPECT_TRUE(model.LinesAddUp());
+  table->Set(1, Model::kPaymentColumn, Variant("not a number"));
+  EXPECT_EQ(model.Remaining(), std::nullopt);
+  EXPECT_FALSE(model.LinesAddUp());
 }
 
 TEST(DistributionAmountsCheck, AnAccountWithoutAmountNamesItsRow) {

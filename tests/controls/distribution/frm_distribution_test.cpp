@@ -325,7 +325,8 @@ TEST_F(FrmDistributionTest, TheWindowIsLaidOutAsDesigned) {
   std::vector<std::string> order;
   for (platform::Widget* child : Window().Children()) order.push_back(child->Name());
   EXPECT_EQ(order, (std::vector<std::string>{"grTempDistribution", "lblPaymentFor", "txtPaymentFor", "cmdGLAccept",
-                                             "cmdGLCancel", "Frame1", "Shape1"}));
+                                             "cmdGLCancel", "Frame1", "Shape1", "lblAmountToDistribute",
+                                             "lblRemaining"}));
 }
 
 TEST_F(FrmDistributionTest, OneWindowServesEveryCallerAndKeepsItsFields) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/controls/invoice_entry/invoice_screen.h"
 #include "zenta/core/host_error.h"
 #include "zenta/platform/headless/memory_property_bag.h"
@@ -107,6 +109,19 @@ TEST_F(InvoiceEntryTest, TypedCentsAndKeyFilters) {
   user.LeaveControl();
   EXPECT_EQ(control.InvoiceValues(1)->InvoiceNo, "ABC");
   EXPECT_EQ(control.InvoiceValues(1)->InvoiceAmount, Money("12.5"));
+}
+
+TEST_F(InvoiceEntryTest, ABlankNumberIsRefusedSilentlyBeforeTheHostSeesIt) {
+  user.ClickCell(Grid(), 0, InvoiceStore::kNumberColumn);
+  user.Type("   \t");
+  EXPECT_TRUE(host.MessagesShown().empty());
+  EXPECT_TRUE(std::find(Events().begin(), Events().end(), "CheckDuplicateInvoices") == Events().end());
+  // The cell stays open with what was typed, for the real number.
+  EXPECT_TRUE(Engine().IsEditing());
+  EXPECT_EQ(Engine().CurrentColumn(), InvoiceStore::kNumberColumn);
+  user.Type("INV-9\t");
+  EXPECT_EQ(Engine().CellText(InvoiceStore::kNumberColumn), "   INV-9");
+  EXPECT_NE(std::find(Events().begin(), Events().end(), "CheckDuplicateInvoices"), Events().end());
 }
 
 TEST_F(InvoiceEntryTest, TheHostVetoesADuplicateNumberAndAnAmountOverItsLimit) {

@@ -1,5 +1,6 @@
 #include "zenta/controls/distribution/distribution_model.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "zenta/controls/distribution/rate_conversion.h"
@@ -101,25 +102,6 @@ std::int16_t DistributionModel::DistributionCount() const {
   return 0;
 }
 
-std::optional<Currency> DistributionModel::FooterTotal() const {
-  const std::string_view footer = utf8::Trim(FooterText(amount_column_));
-  try {
-    return footer.empty() ? std::optional<Currency>(Currency()) : Currency::Parse(footer);
-  } catch (const HostError&) {
-    return std::nullopt;
-  }
-}
-
-DistributionModel::AfterStore DistributionModel::AfterRowStored(std::string_view account,
-                                                                std::string_view amount) const {
-  const std::optional<Currency> total = FooterTotal();
-  if (!total) return AfterStore::Nothing;
-  if (*total != amount_to_distribute_) {
-    return amount.empty() && account.empty() ? AfterStore::Nothing : AfterStore::Fill;
-  }
-  return account.empty() ? AfterStore::Nothing : AfterStore::FocusAccept;
-}
-
 void DistributionModel::PutAmount(int row, Currency amount) {
   table_->Set(row, amount_column_, Variant(amount));
   if (!is_fx_payment_) return;
@@ -130,30 +112,64 @@ void DistributionModel::PutAmount(int row, Currency amount) {
   }
 }
 
-bool DistributionModel::FillRemainingAmount(std::optional<int> current_row) {
-  if (!table_) return false;
-  const std::optional<Currency> total = FooterTotal();
-  if (!total) return false;
+void DistributionModel::ClearAmount(int row) {
+  table_->Set(row, amount_column_, Variant());
+  if (is_fx_payment_) table_->Set(row, kPaymentColumn, Variant());
+}
+
+bool DistributionModel::IsEmptyLine(int row) const {
+  return IsEmptyCell(Cell(row, kAccountColumn)) && IsEmptyCell(Cell(row, kPaymentColumn)) &&
+         IsEmptyCell(Cell(row, kHomeColumn));
+}
+
+std::optional<int> DistributionModel::RemainderRow() const {
+  for (int row = LowerRow(); row <= UpperRow(); ++row) {
+    if (IsEmptyCell(Cell(row, kAccountColumn)) && !IsEmptyCell(Cell(row, amount_column_))) return row;
+  }
+  return std::nullopt;
+}
+
+std::optional<Currency> DistributionModel::Remaining() const {
+  const std::optional<int> remainder_row = RemainderRow();
   try {
-    const Currency remainder = amount_to_distribute_ - *total;
-    const int last = UpperRow();
-    const bool has_rows = last >= LowerRow();
-    const bool within = current_row && *current_row >= LowerRow() && *current_row <= last;
-    if (!has_rows || !IsEmptyCell(Cell(last, kAccountColumn)) || !within) {
-      if (remainder.IsZero()) return false;
-      table_->AppendRows(1);
-      PutAmount(table_->UpperBound(1), remainder);
-      return true;
-    }
-    for (int row = std::max<int>(LowerRow(), initial_last_row_ + 1); row <= last; ++row) {
+    Currency lines;
+    for (int row = LowerRow(); row <= UpperRow(); ++row) {
       const Variant amount = Cell(row, amount_column_);
-      if (!IsEmptyCell(Cell(row, kAccountColumn)) || IsEmptyCell(amount)) continue;
-      const Currency recomputed = amount_to_distribute_ - (*total - amount.ToCurrency());
-      PutAmount(row, recomputed);
+      if (row != remainder_row && !IsEmptyCell(amount)) lines += amount.ToCurrency();
+    }
+    return amount_to_distribute_ - lines;
+  } catch (const HostError&) {
+    return std::nullopt;
+  }
+}
+
+bool DistributionModel::LinesAddUp() const {
+  const std::optional<Currency> remaining = Remaining();
+  return remaining && remaining->IsZero();
+}
+
+bool DistributionModel::FillRemainingAmount(std::optional<int> changed_row) {
+  if (!table_) return false;
+  const std::optional<Currency> remaining = Remaining();
+  if (!remaining) return false;
+  try {
+    if (const std::optional<int> row = RemainderRow()) {
+      if (remaining->IsZero()) {
+        ClearAmount(*row);
+        return true;
+      }
+      if (Cell(*row, amount_column_).ToCurrency() == *remaining) return false;
+      PutAmount(*row, *remaining);
       return true;
     }
-    if (remainder.IsZero() || !IsEmptyCell(Cell(last, amount_column_))) return false;
-    PutAmount(last, remainder);
+    if (remaining->IsZero()) return false;
+    int row = std::max(LowerRow(), changed_row.value_or(LowerRow() - 1) + 1);
+    while (row <= UpperRow() && !IsEmptyLine(row)) ++row;
+    if (row > UpperRow()) {
+      table_->AppendRows(1);
+      row = UpperRow();
+    }
+    PutAmount(row, *remaining);
     return true;
   } catch (const HostError&) {
     return false;

@@ -22,13 +22,13 @@ namespace zenta {
 // what comes back.
 //
 // Decisions of our own:
-//  - The remaining-amount fill leaves the lines adding up to AmountToDistribute exactly: the
-//    cell it recomputes becomes AmountToDistribute - (footer total - that cell's amount). It
-//    never rewrites the caller's own lines (rows up to the initial last row recorded when
-//    AmountToDistribute was set); only a line added in this dialog with an amount and no
-//    account is recomputed. With no such line the remainder goes into the last line when that
-//    line has neither account nor amount, and otherwise nothing changes. A new line is never
-//    appended for a remainder of zero.
+//  - The remainder line is the first line with an amount and no account. After every stored or
+//    deleted line it holds exactly what the other lines leave of AmountToDistribute, so the
+//    lines always add up; a remainder of zero empties it. With no such line, the remainder goes
+//    on the first empty line after the one just stored (a new line when there is none), where
+//    the payer types next. Giving the remainder line an account makes it one of the payer's.
+//  - "The lines add up" (where Tab and Enter go to Accept) counts the payer's lines only, not a
+//    remainder line that has no account yet: a proposal does not end the payer's typing.
 //  - Filled and converted amounts are stored as currency values rounded half to even to the
 //    cent; the grid shows them through its "########0.00" formatting.
 //  - A missing table reads as a table without rows.
@@ -95,14 +95,16 @@ class DistributionModel {
   // One more than the last row with an amount, 0 with none.
   std::int16_t DistributionCount() const;
 
-  // Puts what is left of AmountToDistribute on a line (see the class comment); `current_row`
-  // is the grid's current bookmark. Returns true when the table changed.
-  bool FillRemainingAmount(std::optional<int> current_row);
-  // What follows a row being stored, from the row's account and amount-column texts: the fill
-  // when the footer total differs from AmountToDistribute and the row holds either; the
-  // accept button when they are equal and the row has an account.
-  enum class AfterStore { Nothing, Fill, FocusAccept };
-  AfterStore AfterRowStored(std::string_view account, std::string_view amount) const;
+  // The first line with an amount and no account, which holds what is left.
+  std::optional<int> RemainderRow() const;
+  // What AmountToDistribute leaves after the payer's lines (every line but the remainder
+  // line); nullopt when a cell does not read as a number or the sum is out of range.
+  std::optional<Currency> Remaining() const;
+  bool LinesAddUp() const;
+  // Puts what is left on the remainder line after a line changed (see the class comment);
+  // `changed_row` is the line just stored, or the one before a deleted line. Returns true when
+  // the table changed.
+  bool FillRemainingAmount(std::optional<int> changed_row);
 
   // Before accepting: the first row with an account and no amount, or a rejected cell edit
   // (consumed here), refuses. `missing_amount_row` names the row to show.
@@ -138,13 +140,13 @@ class DistributionModel {
 
  private:
   std::optional<Totals> Sum() const;
-  // The amount column's footer read back as currency; an empty footer is 0.
-  std::optional<Currency> FooterTotal() const;
   void SetFooters(const Totals& totals);
   Variant Cell(int row, int column) const;
   int LowerRow() const;
   int UpperRow() const;
   void PutAmount(int row, Currency amount);
+  void ClearAmount(int row);
+  bool IsEmptyLine(int row) const;
 
   std::shared_ptr<platform::Array2D> table_;
   bool chosen_ = false;

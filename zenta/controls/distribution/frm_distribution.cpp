@@ -1,5 +1,7 @@
 #include "zenta/controls/distribution/frm_distribution.h"
 
+#include <utility>
+
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
 #include "zenta/core/ole_color.h"
@@ -26,6 +28,9 @@ constexpr TwipsRect kAccept{5400, 3630, 1335, 375};
 constexpr TwipsRect kCancel{6840, 3630, 1335, 375};
 constexpr TwipsRect kFrame{0, 3480, 8205, 705};
 constexpr TwipsRect kShape{0, 0, 8190, 3420};
+// What is to be split and what is left, beside the buttons in both layouts.
+constexpr TwipsRect kAmountLabel{120, 3540, 3660, 255};
+constexpr TwipsRect kRemainingLabel{120, 3810, 3660, 255};
 constexpr int kDeleteWidth = 450;
 constexpr int kAccountWidth = 4215;
 constexpr int kAmountWidth = 1500;
@@ -78,7 +83,9 @@ FrmDistribution::FrmDistribution(platform::HostServices& host, std::unique_ptr<p
       accept_(surface_->AddButton({"cmdGLAccept", kAccept, "Accept this distribution", true}, "&Accept")),
       cancel_(surface_->AddButton({"cmdGLCancel", kCancel, "Cancel this distribution", true}, "Cancel")),
       frame_(surface_->AddFrame({"Frame1", kFrame, "", false}, "")),
-      shape_(surface_->AddShape({"Shape1", kShape, "", false})) {
+      shape_(surface_->AddShape({"Shape1", kShape, "", false})),
+      amount_label_(surface_->AddLabel({"lblAmountToDistribute", kAmountLabel, "", false}, "")),
+      remaining_label_(surface_->AddLabel({"lblRemaining", kRemainingLabel, "", false}, "")) {
   surface_->SetRect(kWindow);
   surface_->SetCancelButton(cancel_);
 
@@ -88,6 +95,8 @@ FrmDistribution::FrmDistribution(platform::HostServices& host, std::unique_ptr<p
   marker.kind = platform::ColumnKind::Button;
   marker.tab_stop = false;
   marker.width = kDeleteWidth;
+  marker.button_text = "X";
+  marker.button_tooltip = "Delete this line";
   engine.SetColumn(Column::kDeleteColumn, marker);
   platform::GridColumn account;
   account.caption = "General Ledger Account No., Payment Description/Sub Ledger";
@@ -124,10 +133,16 @@ void FrmDistribution::WireGrid() {
     const platform::MessageBox question{"Are you sure you want to delete this distribution?",
                                         "Delete this distribution?", platform::MessageButtons::YesNo,
                                         platform::MessageIcon::Question};
-    if (host_.ShowMessage(question) != platform::MessageResult::Yes) args.cancel = true;
+    if (host_.ShowMessage(question) != platform::MessageResult::Yes) {
+      args.cancel = true;
+      return;
+    }
+    deleting_row_ = grid_.Engine().CurrentRow();
   };
   on.after_delete = [this] {
-    AfterLinesChanged(true);
+    // The line that took the deleted one's place is where the payer goes on.
+    const std::optional<int> deleted = std::exchange(deleting_row_, std::nullopt);
+    AfterLinesChanged(deleted ? std::optional<int>(*deleted - 1) : std::nullopt);
     KeepOffDeleteColumn();
   };
   on.after_update = [this] { OnAfterUpdate(); };
@@ -161,7 +176,7 @@ void FrmDistribution::WireGrid() {
 Variant FrmDistribution::CalculateDistAmounts() {
   const std::optional<Currency> total = model_.CalculateDistAmounts();
   if (!total) return Variant();
-  ShowFooters();
+  ShowTotals();
   return Variant(*total);
 }
 
@@ -213,10 +228,18 @@ void FrmDistribution::SetFXCurrencyCode(const std::string& code) {
 
 void FrmDistribution::Show() { surface_->ShowModal(); }
 
-void FrmDistribution::ShowFooters() {
+void FrmDistribution::SetAmountToDistribute(Currency curAmount) {
+  model_.SetAmountToDistribute(curAmount);
+  ShowTotals();
+}
+
+void FrmDistribution::ShowTotals() {
   platform::GridEngine& engine = grid_.Engine();
   engine.SetFooterText(Column::kPaymentColumn, model_.FooterText(Column::kPaymentColumn));
   engine.SetFooterText(Column::kHomeColumn, model_.FooterText(Column::kHomeColumn));
+  amount_label_.SetCaption("Amount to distribute " + FormatNumber(model_.AmountToDistribute(), formats::kAmount));
+  const std::optional<Currency> remaining = model_.Remaining();
+  remaining_label_.SetCaption(remaining ? "Remaining " + FormatNumber(*remaining, formats::kAmount) : "");
 }
 
 void FrmDistribution::FocusGrid() {
@@ -236,17 +259,14 @@ void FrmDistribution::Inform(const std::string& text) {
   host_.ShowMessage({text, kRefusedTitle, platform::MessageButtons::Ok, platform::MessageIcon::Information});
 }
 
-void FrmDistribution::AfterLinesChanged(bool fill) {
+void FrmDistribution::AfterLinesChanged(std::optional<int> changed_row) {
   CalculateDistAmounts();
   model_.RefreshFooters();
-  ShowFooters();
-  if (fill && model_.FillRemainingAmount(grid_.Engine().CurrentRow())) {
+  if (model_.FillRemainingAmount(changed_row)) {
     grid_.Engine().Rebind();
-    // The filled line changes the totals the footers show.
     CalculateDistAmounts();
-    model_.RefreshFooters();
-    ShowFooters();
   }
+  ShowTotals();
 }
 
 void FrmDistribution::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
@@ -287,33 +307,28 @@ void FrmDistribution::OnAfterColUpdate(int column) {
 }
 
 void FrmDistribution::OnAfterUpdate() {
-  AfterLinesChanged(false);
   platform::GridEngine& engine = grid_.Engine();
-  switch (model_.AfterRowStored(engine.CellText(Column::kAccountColumn), engine.CellText(model_.AmountColumn()))) {
-    case DistributionModel::AfterStore::Nothing:
-      return;
-    case DistributionModel::AfterStore::Fill:
-      if (model_.FillRemainingAmount(engine.CurrentRow())) engine.Rebind();
-      return;
-    case DistributionModel::AfterStore::FocusAccept:
-      FocusAccept();
-      return;
-  }
+  AfterLinesChanged(engine.CurrentRow());
+  if (model_.LinesAddUp() && !engine.CellText(Column::kAccountColumn).empty()) FocusAccept();
 }
 
 // Tab or Enter from the row's last amount stores the row, then goes to Accept once the lines
-// add up, else to the next line's account.
+// add up, else to the next line's account. Ctrl+Tab is the way out of the grid and passes.
 void FrmDistribution::OnKeyDown(platform::KeyDown& key) {
   if ((key.key_code != platform::keys::kTab && key.key_code != platform::keys::kEnter) ||
       key.shift != platform::kNoShift) {
     return;
   }
   platform::GridEngine& engine = grid_.Engine();
-  if (!engine.CurrentRow() || engine.CurrentColumn() < model_.AmountColumn()) return;
+  if (!engine.CurrentRow() || engine.CurrentColumn() <= Column::kDeleteColumn) return;
+  if (engine.CurrentColumn() < model_.AmountColumn()) {
+    LeaveAccountColumn(key);
+    return;
+  }
   const int pressed = key.key_code;
   key.key_code = 0;
   if (!engine.CommitRow() || accept_.HasFocus()) return;
-  if (model_.TotalsMatch()) {
+  if (model_.LinesAddUp()) {
     FocusAccept();
     return;
   }
@@ -324,6 +339,16 @@ void FrmDistribution::OnKeyDown(platform::KeyDown& key) {
   }
   // Past the last line the grid's own handling goes on (Tab leaves the grid).
   key.key_code = pressed;
+}
+
+// Before the amount: once the lines add up there is nothing left to type, so Accept is next;
+// otherwise the cursor goes on to the amount.
+void FrmDistribution::LeaveAccountColumn(platform::KeyDown& key) {
+  if (!model_.LinesAddUp()) return;
+  platform::GridEngine& engine = grid_.Engine();
+  key.key_code = 0;
+  if (!engine.CommitRow() || accept_.HasFocus()) return;
+  if (model_.LinesAddUp()) FocusAccept();
 }
 
 // A line started below the last one becomes a table line at once, so the fill and the totals
@@ -338,11 +363,12 @@ void FrmDistribution::OnNewRowRequest() {
 
 void FrmDistribution::OnActivate() {
   platform::GridEngine& engine = grid_.Engine();
+  // The cursor never waits on the delete column, drawn or not.
+  engine.SetCurrentColumn(Column::kAccountColumn);
   if (model_.TotalsMatch() && !engine.CellText(Column::kAccountColumn).empty()) {
     FocusAccept();
     return;
   }
-  engine.SetCurrentColumn(Column::kAccountColumn);
   FocusGrid();
 }
 

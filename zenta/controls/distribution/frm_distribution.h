@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "zenta/controls/distribution/distribution_model.h"
@@ -11,6 +12,7 @@
 #include "zenta/platform/dialog_surface.h"
 #include "zenta/platform/grid.h"
 #include "zenta/platform/host_services.h"
+#include "zenta/platform/label.h"
 #include "zenta/platform/text_box.h"
 
 namespace zenta {
@@ -36,7 +38,7 @@ class FrmDistribution {
   void SetupForm();
   bool Chosen() const { return model_.Chosen(); }
   Currency AmountToDistribute() const { return model_.AmountToDistribute(); }
-  void SetAmountToDistribute(Currency curAmount) { model_.SetAmountToDistribute(curAmount); }
+  void SetAmountToDistribute(Currency curAmount);
   // Accepted for the callers' sake; nothing is kept or shown.
   void SetInvoiceNo(const std::string& /*strInvoiceNo*/) {}
   const LineTable& XTempDistribution() const { return model_.Table(); }
@@ -62,16 +64,19 @@ class FrmDistribution {
 
  private:
   void WireGrid();
-  void ShowFooters();
+  // Footers, the amount to distribute and what remains of it.
+  void ShowTotals();
   void FocusGrid();
   void FocusAccept();
   void KeepOffDeleteColumn();
   void Inform(const std::string& text);
-  void AfterLinesChanged(bool fill);
+  // Totals, then the remainder line kept up to date after `changed_row` was stored or deleted.
+  void AfterLinesChanged(std::optional<int> changed_row);
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void OnAfterColUpdate(int column);
   void OnAfterUpdate();
   void OnKeyDown(platform::KeyDown& key);
+  void LeaveAccountColumn(platform::KeyDown& key);
   void OnNewRowRequest();
   void OnActivate();
   void OnAccept();
@@ -86,6 +91,9 @@ class FrmDistribution {
   platform::Button& cancel_;
   platform::Widget& frame_;
   platform::Widget& shape_;
+  platform::Label& amount_label_;
+  platform::Label& remaining_label_;
+  std::optional<int> deleting_row_;
 };
 
 }  // namespace zenta

@@ -5,6 +5,7 @@
 
 #include "zenta/controls/distribution/distribution_handover.h"
 #include "zenta/controls/distribution/validation_texts.h"
+#include "zenta/controls/distribution/view_dist_column.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
 #include "zenta/core/date_mask.h"
 #include "zenta/core/host_error.h"
@@ -109,7 +110,7 @@ void InvoiceEntry::BuildColumns() {
   engine.SetColumn(Col::kAmountColumn, Described("Invoice Amount", ColumnKind::Number, 1335));
   engine.SetColumn(Col::kGSTColumn, Described("Refundable GST/HST", ColumnKind::Number, 1335, false));
   engine.SetColumn(Col::kExpenseColumn, Described("Net Expense", ColumnKind::Number, 1335, false));
-  engine.SetColumn(Col::kViewDistColumn, Described("View Dist", ColumnKind::Button, 900));
+  engine.SetColumn(Col::kViewDistColumn, ViewDistColumn(900));
   engine.SetColumn(Col::kPaymentForColumn, Described("Payment For", ColumnKind::Text, 0, false));
   engine.SetColumn(Col::kEmailColumn, Described("Email", ColumnKind::Text, 0, false));
   engine.SetColumnLocked(Col::kExpenseColumn, true);
@@ -264,6 +265,11 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
     if (question && Ask(question, kDateTitle)) args.cancel = true;
   } else if (args.column == Col::kNumberColumn) {
     std::string number = engine.CellText(Col::kNumberColumn);
+    if (Trimmed(number).empty()) {
+      // A blank number is no invoice: refused without a word, the cell stays open.
+      args.cancel = true;
+      return;
+    }
     if (number.size() > kMaxNumberLength) {
       host_.ShowMessage({kNumberTooLong, "Invoice Number/Description Validation", platform::MessageButtons::Ok,
                          platform::MessageIcon::Information});

@@ -2,6 +2,7 @@
 
 #include "zenta/controls/distribution/distribution_handover.h"
 #include "zenta/controls/distribution/validation_texts.h"
+#include "zenta/controls/distribution/view_dist_column.h"
 #include "zenta/controls/payment_details/payment_key_filter.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
@@ -81,7 +82,7 @@ void PaymentDetails::BuildColumns() {
   engine.SetColumn(kPayAmtColumn, Described("Payment Amount", ColumnKind::Number, 1335));
   engine.SetColumn(kGSTColumn, Described("Refundable GST/HST", ColumnKind::Number, 1695));
   engine.SetColumn(kNetExpenseColumn, Described("Net Expense", ColumnKind::Number, 1335));
-  engine.SetColumn(kViewDistColumn, Described("View Dist", ColumnKind::Button, 900));
+  engine.SetColumn(kViewDistColumn, ViewDistColumn(900));
   engine.SetColumn(kPaymentForColumn, Described("Payment For", ColumnKind::Text, 1500));
 }
 

@@ -21,8 +21,11 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return ShownText(row, column);
     case Qt::AccessibleTextRole:
-      // A screen reader announces the cell with its column: "Amount: 45.50".
+      // A button cell is announced by what it does; others with their column: "Amount: 45.50".
+      if (IsButton(row, column)) return UiText(engine_.Column(column).button_tooltip);
       return UiText(engine_.Column(column).caption) + QStringLiteral(": ") + ShownText(row, column);
+    case Qt::ToolTipRole:
+      return IsButton(row, column) ? UiText(engine_.Column(column).button_tooltip) : QVariant();
     case Qt::AccessibleDescriptionRole:
       return UiText(engine_.Column(column).caption);
     case Qt::ForegroundRole: {
@@ -43,8 +46,16 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
   }
 }
 
+bool GridEngineModel::IsButton(int row, int column) const {
+  const platform::GridColumn& described = engine_.Column(column);
+  return described.kind == platform::ColumnKind::Button && !described.button_tooltip.empty() && !engine_.IsAddNewRow(row);
+}
+
 QString GridEngineModel::ShownText(int row, int column) const {
-  QString text = ToQString(engine_.Appearance(row, column).text);
+  const platform::CellAppearance appearance = engine_.Appearance(row, column);
+  // A button's text is the library's own, translated like its captions.
+  if (engine_.Column(column).kind == platform::ColumnKind::Button) return UiText(appearance.text);
+  QString text = ToQString(appearance.text);
   if (engine_.Column(column).kind != platform::ColumnKind::Number) return text;
   // The view's locale, which a host may set on the control.
   const auto* view = qobject_cast<const QWidget*>(QObject::parent());

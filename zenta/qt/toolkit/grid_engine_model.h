@@ -27,6 +27,8 @@ class GridEngineModel : public QAbstractTableModel {
  private:
   // Amount columns show the view's decimal point.
   QString ShownText(int row, int column) const;
+  // A cell of a button column that stands for an action (an existing row, a described button).
+  bool IsButton(int row, int column) const;
 
   const platform::GridEngine& engine_;
 };

@@ -1,6 +1,7 @@
 #include "zenta/qt/toolkit/ui_text.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include "zenta/qt/toolkit/qt_conversions.h"
 
@@ -14,12 +15,33 @@ QString Translated(const std::string& english) {
   return translated.isEmpty() ? ToQString(english) : translated;
 }
 
+// "Remaining -40.00": words followed by a figure the control worked out.
+bool SplitTrailingFigure(const std::string& english, std::string& words, std::string& figure) {
+  const auto space = english.rfind(' ');
+  if (space == std::string::npos || space == 0) return false;
+  figure = english.substr(space + 1);
+  const auto point = figure.find('.');
+  const std::size_t digits_from = !figure.empty() && figure[0] == '-' ? 1 : 0;
+  if (point == std::string::npos || point == digits_from || point + 1 == figure.size()) return false;
+  for (std::size_t i = digits_from; i < figure.size(); ++i) {
+    if (i != point && (figure[i] < '0' || figure[i] > '9')) return false;
+  }
+  words = english.substr(0, space);
+  return true;
+}
+
 }  // namespace
 
 QString UiText(const std::string& english) {
   if (english.empty()) return {};
   const QString translated = Translated(english);
   if (translated != ToQString(english)) return translated;
+  // A caption with a figure: the words translated, the figure in the locale's decimal form.
+  std::string leading;
+  std::string figure;
+  if (SplitTrailingFigure(english, leading, figure)) {
+    return Translated(leading) + QLatin1Char(' ') + LocalAmountText(ToQString(figure), QLocale());
+  }
   // A caption built with a currency code ("Invoice Amount (USD)"): the words are translated,
   // the code is kept.
   const auto open = english.rfind(" (");

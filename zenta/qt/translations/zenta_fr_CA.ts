@@ -263,5 +263,25 @@
         <source>That amount would cause the foreign currency amount to be invalid (it must be between -9,999,999.99 and 9,999,999.99)</source>
         <translation>Ce montant rendrait le montant en devise invalide (il doit être compris entre -9 999 999,99 et 9 999 999,99)</translation>
     </message>
+    <message>
+        <source>Amount to distribute</source>
+        <translation>Montant à répartir</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Reste</translation>
+    </message>
+    <message>
+        <source>Delete this line</source>
+        <translation>Supprimer cette ligne</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Voir</translation>
+    </message>
+    <message>
+        <source>View the G/L distribution</source>
+        <translation>Voir la ventilation du grand livre</translation>
+    </message>
 </context>
 </TS>
