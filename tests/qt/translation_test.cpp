@@ -61,6 +61,20 @@ class TranslationTest : public QObject {
     QCOMPARE(UiText("(USD)"), QString("(USD)"));
   }
 
+  void captionsWithAFigureTranslateTheWordsAndLocaliseTheFigure() {
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::Canada));
+    const QString remaining = UiText("Remaining -40.00");
+    const QString amount = UiText("Amount to distribute 100.00");
+    const QString not_a_figure = UiText("Remaining 40.");
+    QLocale::setDefault(before);
+    QCOMPARE(remaining, QString("Reste -40,00"));
+    QCOMPARE(amount, QString("Montant à répartir 100,00"));
+    QCOMPARE(not_a_figure, QString("Remaining 40."));
+    QCOMPARE(UiText("View"), QString("Voir"));
+  }
+
   void messagesAndTitlesAreTranslatedToo() {
     QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
     QWidget window;
