@@ -1,5 +1,5 @@
 # Installs the build tree into a scratch prefix, then configures, builds and runs the example
-# host against it: a package that does not install or export what a host needs fails here.
+# hosts against it: a package that does not install or export what a host needs fails here.
 # Expects BUILD_DIR, EXAMPLE_DIR and WORK_DIR.
 file(REMOVE_RECURSE ${WORK_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/prefix
@@ -17,7 +17,14 @@ execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}/example RESULT_VARI
 if(failed)
   message(FATAL_ERROR "building the example failed")
 endif()
-execute_process(COMMAND ${WORK_DIR}/example/payment_dialog --check RESULT_VARIABLE failed)
+# Each example checks what its host reads and exits non-zero when it is wrong.
+foreach(check designer_dialog/payment_dialog invoice_list/invoice_list payment_split/payment_split)
+  execute_process(COMMAND ${WORK_DIR}/example/${check} --check RESULT_VARIABLE failed)
+  if(failed)
+    message(FATAL_ERROR "the example ${check} read the wrong values")
+  endif()
+endforeach()
+execute_process(COMMAND ${WORK_DIR}/example/headless_screen/headless_screen_test RESULT_VARIABLE failed)
 if(failed)
-  message(FATAL_ERROR "the example read the wrong amount")
+  message(FATAL_ERROR "the headless screen example's test failed")
 endif()
