@@ -101,20 +101,11 @@ QVariantList PaymentDetails::Distributions() const {
   return lines;
 }
 
-Currency PaymentDetails::PaymentAmount() const {
-  FinishEditForRead();
-  return control_->PaymentAmount();
-}
+Currency PaymentDetails::PaymentAmount() const { return control_->PaymentAmount(); }
 void PaymentDetails::SetPaymentAmount(Currency value) { Guard([&] { control_->SetPaymentAmount(value); }); }
-Currency PaymentDetails::GST() const {
-  FinishEditForRead();
-  return control_->GST();
-}
+Currency PaymentDetails::GST() const { return control_->GST(); }
 void PaymentDetails::SetGST(Currency value) { Guard([&] { control_->SetGST(value); }); }
-Currency PaymentDetails::NetExpense() const {
-  FinishEditForRead();
-  return control_->NetExpense();
-}
+Currency PaymentDetails::NetExpense() const { return control_->NetExpense(); }
 QString PaymentDetails::PaymentFor() const { return ToQString(control_->PaymentFor().ToString()); }
 QString PaymentDetails::DefaultGLAccount() const { return ToQString(control_->DefaultGLAccount()); }
 void PaymentDetails::SetDefaultGLAccount(const QString& account) {
