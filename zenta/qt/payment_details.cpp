@@ -6,6 +6,7 @@
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -79,7 +80,7 @@ bool PaymentDetails::IsDataValid(QString& InvalidReason) {
   std::string reason = FromQString(InvalidReason);
   bool valid = false;
   Guard([&] { valid = control_->IsDataValid(reason); });
-  InvalidReason = ToQString(reason);
+  InvalidReason = UiText(reason);  // a reason the host shows to the payer
   return valid;
 }
 

@@ -263,5 +263,25 @@
         <source>That amount would cause the foreign currency amount to be invalid (it must be between -9,999,999.99 and 9,999,999.99)</source>
         <translation>Ce montant rendrait le montant en devise invalide (il doit être compris entre -9 999 999,99 et 9 999 999,99)</translation>
     </message>
+    <message>
+        <source>An invoice date is required</source>
+        <translation>Une date de facture est requise</translation>
+    </message>
+    <message>
+        <source>An invoice number / description is required</source>
+        <translation>Un numéro ou une description de facture est requis</translation>
+    </message>
+    <message>
+        <source>An invoice amount is required</source>
+        <translation>Un montant de facture est requis</translation>
+    </message>
+    <message>
+        <source>The invoice amount does not equal the G/L Distribution amount. Please click the &quot;View Dist&quot; button.</source>
+        <translation>Le montant de la facture ne correspond pas au montant de la ventilation du grand livre. Cliquez sur le bouton « Ventil. ».</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>Courriel</translation>
+    </message>
 </context>
 </TS>
