@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QPalette>
 
 #include "zenta/platform/grid_engine.h"
 
@@ -27,6 +28,8 @@ class GridEngineModel : public QAbstractTableModel {
  private:
   // Amount columns show the view's decimal point.
   QString ShownText(int row, int column) const;
+  // The view's palette: system colours and unset colours follow the host's theme.
+  QPalette Palette() const;
 
   const platform::GridEngine& engine_;
 };
