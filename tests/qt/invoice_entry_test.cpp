@@ -1,4 +1,8 @@
+#include <QApplication>
+#include <QHash>
 #include <QHeaderView>
+#include <QScopeGuard>
+#include <QStyle>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
@@ -6,6 +10,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
 
 #include "zenta/qt/invoice_entry.h"
 #include "tests/qt/host_window.h"
@@ -13,6 +19,55 @@
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
+
+namespace {
+// WCAG contrast of two colours: 1 for the same colour, 21 for black on white.
+double Contrast(const QColor& a, const QColor& b) {
+  auto luminance = [](const QColor& color) {
+    auto linear = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+  };
+  const double la = luminance(a);
+  const double lb = luminance(b);
+  return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+// What is drawn in `area`: its most common colour (the background) and the strongest contrast
+// any other pixel (the text) makes with it.
+struct Ink {
+  QColor back;
+  double contrast = 1;
+};
+Ink InkIn(const QImage& image, const QRect& area) {
+  QHash<QRgb, int> counts;
+  for (int y = area.top(); y <= area.bottom(); ++y) {
+    for (int x = area.left(); x <= area.right(); ++x) ++counts[image.pixel(x, y)];
+  }
+  Ink ink;
+  int most = 0;
+  for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+    if (it.value() <= most) continue;
+    most = it.value();
+    ink.back = QColor(it.key());
+  }
+  for (auto it = counts.cbegin(); it != counts.cend(); ++it) ink.contrast = std::max(ink.contrast, Contrast(ink.back, QColor(it.key())));
+  return ink;
+}
+
+QPalette DarkPalette() {
+  QPalette dark;
+  dark.setColor(QPalette::Window, QColor(45, 45, 45));
+  dark.setColor(QPalette::WindowText, Qt::white);
+  dark.setColor(QPalette::Base, QColor(30, 30, 30));
+  dark.setColor(QPalette::AlternateBase, QColor(50, 50, 50));
+  dark.setColor(QPalette::Text, Qt::white);
+  dark.setColor(QPalette::Button, QColor(60, 60, 60));
+  dark.setColor(QPalette::ButtonText, Qt::white);
+  dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+  dark.setColor(QPalette::HighlightedText, Qt::black);
+  return dark;
+}
+}  // namespace
 
 using testing::ClickCell;
 using testing::DialogScript;
@@ -190,6 +245,59 @@ class InvoiceEntryTest : public QObject {
     const QList<QVariant> backs{model->index(0, kNumber).data(Qt::BackgroundRole),
                                 model->index(1, kNumber).data(Qt::BackgroundRole)};
     QVERIFY(backs.contains(QVariant(QColor(200, 220, 240))));
+  }
+
+  // A dark desktop theme: rows, header and footer the host left alone follow it, a row colour
+  // the host chose is drawn as chosen, and every text reads on what it is drawn on.
+  void aDarkThemeKeepsTheListReadable() {
+    const QString style = QApplication::style()->name();
+    const QPalette light = QApplication::palette();
+    auto restore = qScopeGuard([&] {
+      QApplication::setPalette(light);
+      QApplication::setStyle(style);
+    });
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(DarkPalette());
+    QCoreApplication::processEvents();
+    for (const char* number : {"A-1", "A-2", "A-3", "A-4"}) invoices_->AddInvoice(QDate::currentDate(), number, Money("5"));
+    QCoreApplication::processEvents();  // the totals follow the rows
+    QTableView* grid = Grid();
+
+    auto cell = [&](int row) { return grid->visualRect(grid->model()->index(row, kNumber)).adjusted(1, 1, -2, -2); };
+    auto weakest_row = [&](const QImage& rows) {
+      Ink weakest{QColor(), 21};
+      for (int row = 0; row < 4; ++row) {
+        const Ink ink = InkIn(rows, cell(row));
+        if (ink.contrast < weakest.contrast) weakest = ink;
+      }
+      return weakest;
+    };
+    const QImage themed = grid->viewport()->grab().toImage();
+    const Ink themed_rows = weakest_row(themed);
+    QVERIFY2(themed_rows.contrast >= 4.5, qPrintable(themed_rows.back.name()));
+    QCOMPARE(InkIn(themed, cell(0)).back, DarkPalette().color(QPalette::AlternateBase));
+    QCOMPARE(invoices_->RowColorOdd(), QColor(255, 255, 255));  // the stored default is unchanged
+
+    QHeaderView* header = grid->horizontalHeader();
+    const QRect caption(header->sectionViewportPosition(kNumber) + 1, 1, header->sectionSize(kNumber) - 3, header->height() - 3);
+    const Ink heading = InkIn(header->grab().toImage(), caption);
+    QVERIFY2(heading.contrast >= 4.5, qPrintable(QString::number(heading.contrast)));
+    QVERIFY(heading.back != QColor(226, 229, 90));
+
+    const QRect view = grid->viewport()->geometry();
+    const QRect total(view.left() + grid->columnViewportPosition(kAmount) + 1, view.bottom() + 3,
+                      grid->columnWidth(kAmount) - 3, grid->verticalHeader()->defaultSectionSize() - 4);
+    const Ink footer = InkIn(grid->grab().toImage(), total);
+    QVERIFY2(footer.contrast >= 4.5, qPrintable(QString::number(footer.contrast)));
+
+    invoices_->SetRowColorOdd(QColor(255, 255, 200));
+    invoices_->SetRowColorEven(QColor(0, 0, 128));
+    QCoreApplication::processEvents();
+    const QImage chosen = grid->viewport()->grab().toImage();
+    const Ink chosen_rows = weakest_row(chosen);
+    QVERIFY2(chosen_rows.contrast >= 4.5, qPrintable(chosen_rows.back.name()));
+    QCOMPARE(InkIn(chosen, cell(0)).back, QColor(0, 0, 128));
+    QCOMPARE(InkIn(chosen, cell(1)).back, QColor(255, 255, 200));
   }
 
   void theCaptionsFollowBusinessAndForeignMode() {

@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <limits>
 
@@ -85,24 +86,54 @@ class StdPaymentTest : public QObject {
     payment_->SetFocusPaymentAmount();
     Type("12");
     QCOMPARE(changed.count(), 2);
-    Press(Qt::Key_Tab);  // 12 becomes 0.12
-    QCOMPARE(changed.count(), 3);
+    Press(Qt::Key_Tab);  // the text becomes 0.12, which is what "12" has read all along
+    QCOMPARE(changed.count(), 2);
     payment_->SetPaymentAmount(0.12f);
-    QCOMPARE(changed.count(), 3);
+    QCOMPARE(changed.count(), 2);
     payment_->setProperty("PaymentAmount", 5.0f);
-    QCOMPARE(changed.count(), 4);
+    QCOMPARE(changed.count(), 3);
   }
 
-  void readingFromAShortcutFinishesTheAmountBeingTyped() {
+  // A host reading directly and from a timer between the payer's keys, as the demo does.
+  void readingBetweenKeysNeverChangesWhatIsTyped() {
+    payment_->SetFocusPaymentAmount();
+    QLineEdit& field = Field("txtPaymentAmount");
+    QList<Currency> polled;
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, this, [&] {
+      polled.append(payment_->PaymentAmountCurrency());
+      payment_->PaymentAmount();
+    });
+    poll.start(0);
+    const QString keys = "2500";
+    const char* reads[] = {"0.02", "0.25", "2.50", "25.00"};
+    for (int i = 0; i < keys.size(); ++i) {
+      QTest::keyClick(&field, keys[i].toLatin1());
+      polled.clear();
+      QTRY_VERIFY(!polled.isEmpty());
+      QCOMPARE(polled.last(), Currency::FromText(reads[i]));
+      QCOMPARE(payment_->PaymentAmountCurrency(), Currency::FromText(reads[i]));
+      QCOMPARE(payment_->PaymentAmount(), Currency::FromText(reads[i]).ToSingle());
+      QCOMPARE(field.text(), keys.left(i + 1));
+      QCOMPARE(field.cursorPosition(), i + 1);
+      QVERIFY(field.hasFocus());
+    }
+    poll.stop();
+    Press(Qt::Key_Tab);
+    QCOMPARE(field.text(), QString("25.00"));
+    QCOMPARE(payment_->PaymentAmountCurrency(), Currency::FromText("25"));
+  }
+
+  void finishEditAppliesTheCentsRuleWithoutLeaving() {
     QSignalSpy field(payment_, &StdPayment::LostFocusPaymentAmount);
     payment_->SetFocusPaymentAmount();
     Type("1250");
+    QCOMPARE(Field("txtPaymentAmount").text(), QString("1250"));
+    payment_->FinishEdit();
+    QCOMPARE(Field("txtPaymentAmount").text(), QString("12.50"));
     QCOMPARE(payment_->PaymentAmountCurrency(), Currency::FromText("12.5"));
-    QCOMPARE(payment_->PaymentAmount(), 12.5f);
     QCOMPARE(field.count(), 1);
-    QVERIFY(payment_->Surface().FindQWidget("txtPaymentAmount")->hasFocus());
-    Press(Qt::Key_Tab);
-    QCOMPARE(payment_->PaymentAmountCurrency(), Currency::FromText("12.5"));
+    QVERIFY(Field("txtPaymentAmount").hasFocus());
   }
 
   void theExactReadingKeepsCentsTheFloatCannot() {

@@ -75,6 +75,38 @@ class TranslationTest : public QObject {
     QCOMPARE(UiText("View"), QString("Voir"));
   }
 
+  // The reasons IsDataValid hands the host are for the payer: translated when a translation is
+  // installed, the English texts exactly otherwise.
+  void validationReasonsReadInTheInstalledLanguage_data() {
+    QTest::addColumn<bool>("french");
+    QTest::addColumn<QString>("paymentReason");
+    QTest::addColumn<QString>("invoiceReason");
+    QTest::newRow("English") << false << "A payment amount is required"
+                             << "You must enter the G/L Distribution. Please click the \"View Dist\" button.";
+    QTest::newRow("fr_CA") << true << "Un montant de paiement est requis"
+                           << "Vous devez entrer la ventilation du grand livre. Cliquez sur le bouton « Ventil. ».";
+  }
+
+  void validationReasonsReadInTheInstalledLanguage() {
+    QFETCH(bool, french);
+    QFETCH(QString, paymentReason);
+    QFETCH(QString, invoiceReason);
+    QCOMPARE(InstallTranslator(french ? QLocale(QLocale::French, QLocale::Canada) : QLocale(QLocale::German)), french);
+    PaymentDetails payment;
+    QString reason;
+    QVERIFY(!payment.IsDataValid(reason));
+    QCOMPARE(reason, paymentReason);
+    QCOMPARE(payment.InvalidReason(), paymentReason);
+
+    InvoiceEntry list;
+    list.AddInvoice(QDate::currentDate(), "A-100", Currency::FromText("5"));
+    bool incomplete = false;
+    QVERIFY(!list.IsDataValid(reason, incomplete));
+    QCOMPARE(reason, invoiceReason);
+    payment.SetPaymentAmount(Currency::FromText("5"));
+    QCOMPARE(payment.InvalidReason(), invoiceReason);
+  }
+
   void messagesAndTitlesAreTranslatedToo() {
     QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
     QWidget window;

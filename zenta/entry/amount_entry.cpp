@@ -42,7 +42,22 @@ void SetAmount(platform::NumberEdit& edit, float value) {
   SetAmount(edit, Currency::FromDouble(static_cast<double>(value)));
 }
 
-Currency AmountAsCurrency(const platform::NumberEdit& edit) { return edit.Value().value_or(Currency()); }
+std::optional<Currency> PendingValue(const platform::NumberEdit& edit) {
+  if (edit.Editing()) {
+    if (std::optional<Currency> cents = ImpliedDecimalValue(edit.Text())) return cents;
+  }
+  return edit.Value();
+}
+
+Currency PendingGridAmount(std::string_view typed) {
+  try {
+    return Currency::Parse(TypedGridAmount(typed)).value_or(Currency());
+  } catch (const HostError&) {
+    return Currency();
+  }
+}
+
+Currency AmountAsCurrency(const platform::NumberEdit& edit) { return PendingValue(edit).value_or(Currency()); }
 
 float AmountAsSingle(const platform::NumberEdit& edit) { return AmountAsCurrency(edit).ToSingle(); }
 

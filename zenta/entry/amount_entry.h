@@ -29,7 +29,14 @@ std::string TypedGridAmount(std::string_view typed);
 void SetAmount(platform::NumberEdit& edit, Currency value);
 void SetAmount(platform::NumberEdit& edit, float value);
 
-// Money read by the program: 0 when the field holds no value.
+// What a reader gets while the payer is still in the field: the value the text becomes when the
+// field is left ("2500" reads 25.00), worked out without touching the text, caret or focus.
+// Away from the field, the value as it stands.
+std::optional<Currency> PendingValue(const platform::NumberEdit& edit);
+// The same for a grid cell being typed: the amount TypedGridAmount stores on leaving it.
+Currency PendingGridAmount(std::string_view typed);
+
+// Money read by the program: the pending value, 0 when the field holds no value.
 Currency AmountAsCurrency(const platform::NumberEdit& edit);
 float AmountAsSingle(const platform::NumberEdit& edit);
 

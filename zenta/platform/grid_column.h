@@ -56,6 +56,8 @@ struct GridColors {
   std::optional<OleColor> footer_fore;
   std::optional<OleColor> even_row_back;
   std::optional<OleColor> odd_row_back;
+  // Rows without a colour of their own alternate in the toolkit's theme, the first one shaded.
+  bool alternate_rows = false;
 };
 
 // What a view needs to paint one cell: its text and resolved colours.

@@ -20,6 +20,9 @@ class NumberEdit : public Widget {
   virtual std::string Text() const = 0;
   virtual void SetText(const std::string& text) = 0;
   bool IsNull() const { return !Value().has_value(); }
+  // The payer is in the field: leaving it will run its focus-lost handler on the text as typed.
+  // A toolkit whose field keeps that state while a message box holds the focus says so here.
+  virtual bool Editing() const { return HasFocus(); }
 
   virtual void SetDisplayFormat(const std::string& pattern) = 0;
   virtual void SetEditFormat(const std::string& pattern) = 0;

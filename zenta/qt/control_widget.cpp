@@ -128,10 +128,6 @@ void ControlWidget::FinishEdit() {
   }
 }
 
-void ControlWidget::FinishEditForRead() const {
-  if (!notifying_) const_cast<ControlWidget*>(this)->FinishEdit();
-}
-
 QColor ControlWidget::BackColor() const { return ToQColor(control_->BackColor(), palette()); }
 void ControlWidget::SetBackColor(const QColor& color) {
   Guard([&] { control_->SetBackColor(FromQColor(color)); });

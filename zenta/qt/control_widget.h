@@ -52,9 +52,8 @@ class ControlWidget : public QWidget {
   void setBackColorTitle(const QColor& color) { SetBackColorTitle(color); }
 
   // Ends the amount the payer is still typing as leaving the field would (money typed without a
-  // "." is read as cents) while the focus stays where it is. The amount getters call it, so a
-  // host that reads them from a shortcut that keeps the focus in the field (Alt+P on its own Pay
-  // button) reads 12.50, not 1250.
+  // "." is read as cents) while the focus stays where it is. The amount getters never do: they
+  // return what the field will hold once left (1250 typed reads 12.50) and leave the text alone.
   Q_INVOKABLE void FinishEdit();
 
   // Persistence in the host's store: a QSettings group, or any property bag.
@@ -109,8 +108,6 @@ class ControlWidget : public QWidget {
     NotifyChanges();
     return true;
   }
-  // FinishEdit for a getter, unless the getter is being read to look for changes.
-  void FinishEditForRead() const;
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
 

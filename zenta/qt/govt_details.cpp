@@ -49,15 +49,9 @@ QVariant GovtDetails::StatementOnly() const { return ToQVariant(control_->Statem
 void GovtDetails::SetStatementOnly(const QVariant& value) { Guard([&] { control_->SetStatementOnly(FromQVariant(value)); }); }
 QString GovtDetails::Comments() const { return ToQString(control_->Comments()); }
 void GovtDetails::SetComments(const QString& value) { Guard([&] { control_->SetComments(FromQString(value)); }); }
-QVariant GovtDetails::OtherAmount() const {
-  FinishEditForRead();
-  return ToQVariant(control_->OtherAmount());
-}
+QVariant GovtDetails::OtherAmount() const { return ToQVariant(control_->OtherAmount()); }
 void GovtDetails::SetOtherAmount(const QVariant& value) { Guard([&] { control_->SetOtherAmount(FromQVariant(value)); }); }
-QVariant GovtDetails::Amount() const {
-  FinishEditForRead();
-  return ToQVariant(control_->Amount());
-}
+QVariant GovtDetails::Amount() const { return ToQVariant(control_->Amount()); }
 void GovtDetails::SetAmount(const QVariant& value) { Guard([&] { control_->SetAmount(FromQVariant(value)); }); }
 short GovtDetails::GridNumberofRows() const { return control_->GridNumberofRows(); }
 bool GovtDetails::StatementOnlyEnabled() const { return control_->StatementOnlyEnabled(); }

@@ -10,6 +10,7 @@
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 #include "zenta/qt/toolkit/twips_layout.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -140,7 +141,7 @@ bool InvoiceEntry::IsDataValid(QString& InvalidReason, bool& Incomplete) {
   std::string reason = FromQString(InvalidReason);
   bool valid = false;
   Guard([&] { valid = control_->IsDataValid(reason, Incomplete); });
-  InvalidReason = ToQString(reason);
+  InvalidReason = UiText(reason);  // a reason the host shows to the payer
   return valid;
 }
 

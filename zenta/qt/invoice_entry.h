@@ -47,8 +47,9 @@ class InvoiceEntry : public ControlWidget {
 
   Q_INVOKABLE void Clear();
   Q_INVOKABLE void ShowDistribution();
-  // Whether every invoice may be accepted; InvalidReason gets the first problem found, and
-  // Incomplete whether it is a missing value rather than a wrong one.
+  // Whether every invoice may be accepted; InvalidReason gets the first problem found (in the
+  // installed translation's language), and Incomplete whether it is a missing value rather
+  // than a wrong one.
   bool IsDataValid(QString& InvalidReason, bool& Incomplete);
   // The same check for late-bound hosts: the reason, empty when the list is valid.
   Q_INVOKABLE QString InvalidReason();

@@ -6,6 +6,7 @@
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -79,7 +80,7 @@ bool PaymentDetails::IsDataValid(QString& InvalidReason) {
   std::string reason = FromQString(InvalidReason);
   bool valid = false;
   Guard([&] { valid = control_->IsDataValid(reason); });
-  InvalidReason = ToQString(reason);
+  InvalidReason = UiText(reason);  // a reason the host shows to the payer
   return valid;
 }
 
@@ -101,20 +102,11 @@ QVariantList PaymentDetails::Distributions() const {
   return lines;
 }
 
-Currency PaymentDetails::PaymentAmount() const {
-  FinishEditForRead();
-  return control_->PaymentAmount();
-}
+Currency PaymentDetails::PaymentAmount() const { return control_->PaymentAmount(); }
 void PaymentDetails::SetPaymentAmount(Currency value) { Guard([&] { control_->SetPaymentAmount(value); }); }
-Currency PaymentDetails::GST() const {
-  FinishEditForRead();
-  return control_->GST();
-}
+Currency PaymentDetails::GST() const { return control_->GST(); }
 void PaymentDetails::SetGST(Currency value) { Guard([&] { control_->SetGST(value); }); }
-Currency PaymentDetails::NetExpense() const {
-  FinishEditForRead();
-  return control_->NetExpense();
-}
+Currency PaymentDetails::NetExpense() const { return control_->NetExpense(); }
 QString PaymentDetails::PaymentFor() const { return ToQString(control_->PaymentFor().ToString()); }
 QString PaymentDetails::DefaultGLAccount() const { return ToQString(control_->DefaultGLAccount()); }
 void PaymentDetails::SetDefaultGLAccount(const QString& account) {

@@ -35,7 +35,8 @@ class PaymentDetails : public ControlWidget {
   Q_INVOKABLE void ClearPay();
   // The shared currency code of the library; the layout follows at the next ShowBusinessMode.
   Q_INVOKABLE void SetOtherCurrencyCode(const QVariant& code);
-  // Whether the payment may be accepted; InvalidReason gets the first problem found, or "".
+  // Whether the payment may be accepted; InvalidReason gets the first problem found (in the
+  // installed translation's language), or "".
   bool IsDataValid(QString& InvalidReason);
   // The same check for late-bound hosts: the reason, empty when the payment is valid.
   Q_INVOKABLE QString InvalidReason();

@@ -36,24 +36,12 @@ QString PmtDetails::InvoiceNumber() const { return ToQString(control_->InvoiceNu
 void PmtDetails::SetInvoiceNumber(const QString& value) {
   Guard([&] { control_->SetInvoiceNumber(FromQString(value)); });
 }
-float PmtDetails::InvoiceAmount() const {
-  FinishEditForRead();
-  return control_->InvoiceAmount();
-}
+float PmtDetails::InvoiceAmount() const { return control_->InvoiceAmount(); }
 void PmtDetails::SetInvoiceAmount(float value) { Guard([&] { control_->SetInvoiceAmount(value); }); }
-Currency PmtDetails::InvoiceAmountCurrency() const {
-  FinishEditForRead();
-  return control_->InvoiceAmountCurrency();
-}
-float PmtDetails::GSTAmount() const {
-  FinishEditForRead();
-  return control_->GSTAmount();
-}
+Currency PmtDetails::InvoiceAmountCurrency() const { return control_->InvoiceAmountCurrency(); }
+float PmtDetails::GSTAmount() const { return control_->GSTAmount(); }
 void PmtDetails::SetGSTAmount(float value) { Guard([&] { control_->SetGSTAmount(value); }); }
-Currency PmtDetails::GSTAmountCurrency() const {
-  FinishEditForRead();
-  return control_->GSTAmountCurrency();
-}
+Currency PmtDetails::GSTAmountCurrency() const { return control_->GSTAmountCurrency(); }
 bool PmtDetails::InvoiceDateEnabled() const { return control_->InvoiceDateEnabled(); }
 void PmtDetails::SetInvoiceDateEnabled(bool enabled) { Guard([&] { control_->SetInvoiceDateEnabled(enabled); }); }
 bool PmtDetails::InvoiceNumberEnabled() const { return control_->InvoiceNumberEnabled(); }

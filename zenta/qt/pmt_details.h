@@ -13,7 +13,7 @@ namespace zenta::qt {
 // One invoice's date, number, amount and GST/HST as a Qt widget. InvoiceDate is a QDate (null
 // for no date); a date outside years 100 to 9999 is refused. The amounts are floats for hosts
 // that have always read them so; InvoiceAmountCurrency and GSTAmountCurrency are the same
-// amounts exact, the ones to book. Reading an amount first finishes the amount being typed.
+// amounts exact, the ones to book. Reading an amount never changes the field being typed.
 class PmtDetails : public ControlWidget {
   Q_OBJECT
   Q_PROPERTY(QDate InvoiceDate READ InvoiceDate WRITE SetInvoiceDate NOTIFY InvoiceDateChanged STORED false DESIGNABLE false)

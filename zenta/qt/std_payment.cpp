@@ -26,19 +26,10 @@ void StdPayment::ShowBusinessMode() { Guard([&] { control_->ShowBusinessMode(); 
 void StdPayment::SetFocusPaymentAmount() { Guard([&] { control_->SetFocusPaymentAmount(); }); }
 void StdPayment::SetFocusGSTAmount() { Guard([&] { control_->SetFocusGSTAmount(); }); }
 
-float StdPayment::PaymentAmount() const {
-  FinishEditForRead();
-  return control_->PaymentAmount();
-}
+float StdPayment::PaymentAmount() const { return control_->PaymentAmount(); }
 void StdPayment::SetPaymentAmount(float value) { Guard([&] { control_->SetPaymentAmount(value); }); }
-Currency StdPayment::PaymentAmountCurrency() const {
-  FinishEditForRead();
-  return control_->PaymentAmountCurrency();
-}
-Currency StdPayment::GSTAmount() const {
-  FinishEditForRead();
-  return control_->GSTAmount();
-}
+Currency StdPayment::PaymentAmountCurrency() const { return control_->PaymentAmountCurrency(); }
+Currency StdPayment::GSTAmount() const { return control_->GSTAmount(); }
 void StdPayment::SetGSTAmount(Currency value) { Guard([&] { control_->SetGSTAmount(value); }); }
 bool StdPayment::PaymentAmountEnabled() const { return control_->PaymentAmountEnabled(); }
 void StdPayment::SetPaymentAmountEnabled(bool enabled) { Guard([&] { control_->SetPaymentAmountEnabled(enabled); }); }

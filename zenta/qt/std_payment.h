@@ -12,7 +12,7 @@ namespace zenta::qt {
 // The payment amount and GST/HST control as a Qt widget. PaymentAmount is kept a float for
 // hosts that have always read it so; PaymentAmountCurrency is the same amount exact, the one to
 // book. GSTAmount is an exact zenta::Currency (it converts to QString and double in a QVariant).
-// Reading an amount first finishes the amount being typed (FinishEdit).
+// Reading an amount never changes the field: while the payer types "2500" it reads 25.00.
 class StdPayment : public ControlWidget {
   Q_OBJECT
   Q_PROPERTY(float PaymentAmount READ PaymentAmount WRITE SetPaymentAmount NOTIFY PaymentAmountChanged STORED false DESIGNABLE false)

@@ -310,6 +310,9 @@ TEST_F(InvoiceEntryTest, PropertiesRoundTripThroughTheHostsStore) {
   EXPECT_EQ(copy.DefaultGLAccount(), "5100");
   EXPECT_TRUE(copy.BusinessMode());
   EXPECT_EQ(copy.grInvoices().Engine().Colors().header_back, Rgb(1, 2, 3));
+  // Defaults are left to the toolkit's theme; what the host chose is drawn as chosen.
+  EXPECT_EQ(copy.grInvoices().Engine().Colors().even_row_back, std::nullopt);
+  EXPECT_EQ(copy.grInvoices().Engine().Colors().odd_row_back, Rgb(9, 9, 9));
   // Only BackColor reports a change to the host.
   control.SetBackColor(Rgb(5, 5, 5));
   EXPECT_EQ(host.ChangedProperties(), std::vector<std::string>{"BackColor"});

@@ -98,14 +98,29 @@ INSTANTIATE_TEST_SUITE_P(Table, Layout,
                                            LayoutCase{true, "CAD ", false, 6810, 6840},
                                            LayoutCase{true, "cad", false, 6810, 6840}));
 
-// Found by the monkey: a host reading while the payer had typed only "-" got Type mismatch.
-TEST_F(PaymentDetailsTest, AHostReadingMidEditGetsTheLastStoredAmount) {
-  control.SetPaymentAmount(Currency::FromText("12.5"));
-  user.ClickCell(Grid(), 0, PaymentDetails::kPayAmtColumn);
+// A host reads while the payer types (found by the monkey: a lone "-" once read as Type
+// mismatch). Each read gets what leaving the cell stores, and the typing goes on untouched.
+TEST_F(PaymentDetailsTest, AHostReadingMidEditGetsWhatLeavingTheCellStores) {
+  control.SetBusinessMode(true);
+  control.SetPaymentAmount(Money("100"));
+  user.ClickCell(Grid(), 0, PaymentDetails::kGSTColumn);
   user.Type("-");
-  EXPECT_EQ(control.PaymentAmount(), Currency::FromText("12.5"));
-  user.Type("3");
-  EXPECT_EQ(control.PaymentAmount(), Currency::FromText("-3"));
+  EXPECT_EQ(control.GST(), Currency());
+  struct Step {
+    const char* key;
+    const char* gst;
+    const char* net;
+  };
+  for (const Step& step : {Step{"2", "-0.02", "100.02"}, Step{"5", "-0.25", "100.25"}, Step{"0", "-2.50", "102.50"}}) {
+    user.Type(step.key);
+    EXPECT_EQ(control.GST(), Money(step.gst));
+    EXPECT_EQ(control.NetExpense(), Money(step.net));
+  }
+  EXPECT_EQ(Engine().EditText(), "-250");
+  EXPECT_EQ(control.PaymentAmount(), Money("100"));
+  user.PressTab();
+  EXPECT_EQ(control.GST(), Money("-2.50"));
+  EXPECT_EQ(control.NetExpense(), Money("102.50"));
 }
 
 TEST_F(PaymentDetailsTest, OtherCurrencyCodeWaitsForTheNextLayout) {

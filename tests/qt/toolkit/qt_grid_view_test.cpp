@@ -164,7 +164,7 @@ class QtGridViewTest : public QObject {
     auto* model = view_->model();
     QCOMPARE(model->index(0, 0).data(Qt::BackgroundRole).value<QColor>(), QColor(240, 240, 240));
     QCOMPARE(model->index(1, 0).data(Qt::BackgroundRole).value<QColor>(), QColor(255, 255, 224));
-    QVERIFY(!model->index(0, 1).data(Qt::ForegroundRole).isValid());
+    QCOMPARE(model->index(0, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::black));  // readable on light grey
     QCOMPARE(model->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
     QVERIFY(Count(Viewport(), CellRect(1, 1), QColor(255, 0, 0)) > 0);
     QVERIFY(view_->horizontalHeader()->styleSheet().contains("#000080"));

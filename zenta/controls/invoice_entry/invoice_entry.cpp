@@ -421,13 +421,21 @@ void InvoiceEntry::SetRowColorOdd(OleColor color) {
 }
 
 void InvoiceEntry::ApplyColors() {
+  // A colour left at its default is drawn in the toolkit's theme, so a dark desktop keeps a
+  // readable list; the property still reads and stores the default. A host that sets the
+  // default itself cannot be told apart (the store does not write it either).
+  const InvoiceProperties defaults;
+  auto chosen = [](OleColor color, OleColor default_color) {
+    return color == default_color ? std::nullopt : std::optional<OleColor>(color);
+  };
   platform::GridColors colors;
-  colors.header_back = properties_.back_color_grid_header;
-  colors.header_fore = properties_.fore_color_grid_header;
-  colors.footer_back = properties_.back_color_grid_footer;
-  colors.footer_fore = properties_.fore_color_grid_footer;
-  colors.even_row_back = properties_.row_color_even;
-  colors.odd_row_back = properties_.row_color_odd;
+  colors.header_back = chosen(properties_.back_color_grid_header, defaults.back_color_grid_header);
+  colors.header_fore = chosen(properties_.fore_color_grid_header, defaults.fore_color_grid_header);
+  colors.footer_back = chosen(properties_.back_color_grid_footer, defaults.back_color_grid_footer);
+  colors.footer_fore = chosen(properties_.fore_color_grid_footer, defaults.fore_color_grid_footer);
+  colors.even_row_back = chosen(properties_.row_color_even, defaults.row_color_even);
+  colors.odd_row_back = chosen(properties_.row_color_odd, defaults.row_color_odd);
+  colors.alternate_rows = true;
   grid_.Engine().SetColors(colors);
   distribution_grid_.Engine().SetColors(colors);
 }

@@ -277,8 +277,25 @@ Currency PaymentDetails::CellAmount(int column) const {
 }
 
 Currency PaymentDetails::HostAmount(int column) const {
-  // A host may read while the payer is typing in the cell ("-", "12."): what is typed counts
-  // once it reads as an amount, and until then the amount last stored in the cell.
+  if (std::optional<Currency> typed = TypedAmount(column)) return *typed;
+  if (column == kNetExpenseColumn && BusinessMode()) {
+    // Leaving a typed amount works the net expense out again.
+    const std::optional<Currency> pay = TypedAmount(kPayAmtColumn);
+    const std::optional<Currency> gst = TypedAmount(kGSTColumn);
+    if (pay || (gst && !CellEmpty(kPayAmtColumn))) {
+      return pay.value_or(StoredAmount(kPayAmtColumn)) - gst.value_or(StoredAmount(kGSTColumn));
+    }
+  }
+  return StoredAmount(column);
+}
+
+std::optional<Currency> PaymentDetails::TypedAmount(int column) const {
+  const platform::GridEngine& engine = grid_.Engine();
+  if (!engine.IsEditing() || engine.CurrentColumn() != column) return std::nullopt;
+  return entry::PendingGridAmount(engine.EditText());
+}
+
+Currency PaymentDetails::StoredAmount(int column) const {
   try {
     return CellAmount(column);
   } catch (const HostError&) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "zenta/controls/distribution/library_context.h"
@@ -90,7 +91,10 @@ class PaymentDetails {
   std::string CellText(int column) const;
   bool CellEmpty(int column) const { return CellText(column).empty(); }
   Currency CellAmount(int column) const;
+  // An amount as a host reads it: what the cell will hold once the payer leaves it.
   Currency HostAmount(int column) const;
+  std::optional<Currency> TypedAmount(int column) const;
+  Currency StoredAmount(int column) const;
   void SetCell(int column, const Variant& value);
   bool HomeCurrency() const;
 

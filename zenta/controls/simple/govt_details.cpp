@@ -132,10 +132,10 @@ void GovtDetails::SetStatementOnly(const Variant& value) {
 std::string GovtDetails::Comments() const { return w_.comments.Text(); }
 void GovtDetails::SetComments(const std::string& value) { w_.comments.SetText(value); }
 
-Variant GovtDetails::OtherAmount() const { return VariantOf(w_.other_amount.Value()); }
+Variant GovtDetails::OtherAmount() const { return VariantOf(entry::PendingValue(w_.other_amount)); }
 void GovtDetails::SetOtherAmount(const Variant& value) { w_.other_amount.SetValue(AmountOf(value)); }
 
-Variant GovtDetails::Amount() const { return VariantOf(w_.payment_amount.Value()); }
+Variant GovtDetails::Amount() const { return VariantOf(entry::PendingValue(w_.payment_amount)); }
 void GovtDetails::SetAmount(const Variant& value) {
   std::optional<Currency> amount = AmountOf(value);
   if (amount) {

@@ -29,12 +29,16 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleDescriptionRole:
       return UiText(engine_.Column(column).caption);
     case Qt::ForegroundRole: {
-      auto color = engine_.Appearance(row, column).fore_color;
-      return color ? QVariant(ToQColor(*color, QPalette())) : QVariant();
+      const platform::CellAppearance appearance = engine_.Appearance(row, column);
+      if (appearance.fore_color) return ToQColor(*appearance.fore_color, Palette());
+      // On a background chosen without a text colour the theme's text may not read.
+      if (appearance.back_color) return ReadableTextOn(ToQColor(*appearance.back_color, Palette()));
+      return {};
     }
     case Qt::BackgroundRole: {
-      auto color = engine_.Appearance(row, column).back_color;
-      return color ? QVariant(ToQColor(*color, QPalette())) : QVariant();
+      if (auto color = engine_.Appearance(row, column).back_color) return ToQColor(*color, Palette());
+      if (engine_.Colors().alternate_rows && index.row() % 2 == 0) return Palette().color(QPalette::AlternateBase);
+      return {};
     }
     case Qt::TextAlignmentRole: {
       auto kind = engine_.Column(column).kind;
@@ -49,6 +53,11 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
 bool GridEngineModel::IsButton(int row, int column) const {
   const platform::GridColumn& described = engine_.Column(column);
   return described.kind == platform::ColumnKind::Button && !described.button_tooltip.empty() && !engine_.IsAddNewRow(row);
+}
+
+QPalette GridEngineModel::Palette() const {
+  const auto* view = qobject_cast<const QWidget*>(QObject::parent());
+  return view ? view->palette() : QPalette();
 }
 
 QString GridEngineModel::ShownText(int row, int column) const {

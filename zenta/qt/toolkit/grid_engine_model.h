@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QPalette>
 
 #include "zenta/platform/grid_engine.h"
 
@@ -29,6 +30,8 @@ class GridEngineModel : public QAbstractTableModel {
   QString ShownText(int row, int column) const;
   // A cell of a button column that stands for an action (an existing row, a described button).
   bool IsButton(int row, int column) const;
+  // The view's palette: system colours and unset colours follow the host's theme.
+  QPalette Palette() const;
 
   const platform::GridEngine& engine_;
 };

@@ -1,6 +1,7 @@
 #include "zenta/qt/toolkit/qt_conversions.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <limits>
 #include <mutex>
@@ -151,6 +152,18 @@ OleColor FromQColor(const QColor& color) {
   const QColor rgb = color.toRgb();
   return Rgb(static_cast<std::uint8_t>(rgb.red()), static_cast<std::uint8_t>(rgb.green()),
              static_cast<std::uint8_t>(rgb.blue()));
+}
+
+QColor ReadableTextOn(const QColor& back) {
+  auto linear = [](float channel) {
+    return channel <= 0.03928f ? channel / 12.92f : std::pow((channel + 0.055f) / 1.055f, 2.4f);
+  };
+  const QColor rgb = back.toRgb();
+  const float luminance =
+      0.2126f * linear(rgb.redF()) + 0.7152f * linear(rgb.greenF()) + 0.0722f * linear(rgb.blueF());
+  // Contrast against black is (L + 0.05) / 0.05, against white 1.05 / (L + 0.05).
+  const bool black = (luminance + 0.05f) * (luminance + 0.05f) >= 1.05f * 0.05f;
+  return black ? QColor(Qt::black) : QColor(Qt::white);
 }
 
 void RegisterMetaTypes() {

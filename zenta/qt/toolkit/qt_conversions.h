@@ -50,6 +50,9 @@ Variant FromQVariant(const QVariant& value);
 
 QColor ToQColor(OleColor color, const QPalette& palette);
 OleColor FromQColor(const QColor& color);
+// Black or white, whichever stands out more against `back` by relative luminance: the text on
+// a background a host chose without choosing the text's colour.
+QColor ReadableTextOn(const QColor& back);
 // The palette role a system colour stands for, or nullopt for an RGB colour.
 std::optional<QPalette::ColorRole> PaletteRoleOf(OleColor color);
 

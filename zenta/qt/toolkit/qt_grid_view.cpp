@@ -28,7 +28,9 @@ class GridFooter : public QWidget {
     QPainter painter(this);
     const platform::GridColors& colors = engine_.Colors();
     const QColor back = colors.footer_back ? ToQColor(*colors.footer_back, palette()) : palette().color(QPalette::Button);
-    const QColor fore = colors.footer_fore ? ToQColor(*colors.footer_fore, palette()) : palette().color(QPalette::ButtonText);
+    const QColor fore = colors.footer_fore  ? ToQColor(*colors.footer_fore, palette())
+                        : colors.footer_back ? ReadableTextOn(back)
+                                             : palette().color(QPalette::ButtonText);
     painter.fillRect(rect(), back);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawLine(0, 0, width(), 0);
@@ -164,7 +166,8 @@ void QtGridView::ApplyColors() {
   const QPalette p = palette();
   QString style = QStringLiteral("QHeaderView::section {");
   if (colors.header_back) style += QStringLiteral(" background-color: %1;").arg(ToQColor(*colors.header_back, p).name());
-  if (colors.header_fore) style += QStringLiteral(" color: %1;").arg(ToQColor(*colors.header_fore, p).name());
+  const QColor fore = colors.header_fore ? ToQColor(*colors.header_fore, p) : ReadableTextOn(ToQColor(*colors.header_back, p));
+  style += QStringLiteral(" color: %1;").arg(fore.name());
   style += QStringLiteral(" border: 0px; border-right: 1px solid palette(mid); border-bottom: 1px solid palette(mid); }");
   horizontalHeader()->setStyleSheet(style);
 }
@@ -264,6 +267,8 @@ void QtGridView::focusOutEvent(QFocusEvent* event) {
 bool QtGridView::focusNextPrevChild(bool next) { return QWidget::focusNextPrevChild(next); }
 
 bool QtGridView::event(QEvent* event) {
+  // The header's colours are written out when applied; a new theme writes them again.
+  if (event->type() == QEvent::PaletteChange) ApplyColors();
   // Qt moves the focus on Tab before the widget sees the key; the engine decides first whether
   // Tab moves to the next cell or leaves the grid.
   if (event->type() == QEvent::KeyPress) {

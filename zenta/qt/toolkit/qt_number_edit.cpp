@@ -196,7 +196,11 @@ void QtNumberEdit::focusOutEvent(QFocusEvent* event) {
   if (IsTransientFocusChange(event->reason())) return;
   setModified(false);
   showing_raw_ = false;
+  // The shown text changes before the focus-lost rule has read what was typed; a reader woken
+  // by that change still gets the pending value.
+  leaving_ = true;
   Show();
+  leaving_ = false;
   if (on_focus_lost_) on_focus_lost_();
 }
 

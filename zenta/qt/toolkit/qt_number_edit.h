@@ -27,6 +27,9 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   std::optional<Currency> Value() const override { return value_; }
   void SetValue(std::optional<Currency> value) override;
   std::string Text() const override { return raw_; }
+  // From entering the field until really leaving it; a message box taking the focus meanwhile
+  // does not end it.
+  bool Editing() const override { return showing_raw_ || leaving_; }
   void SetText(const std::string& text) override;
   void SetDisplayFormat(const std::string& pattern) override;
   void SetEditFormat(const std::string& pattern) override;
@@ -71,6 +74,7 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   int decimals_ = 2;
   OleColor back_color_ = colors::kWindowBackground;
   bool showing_raw_ = false;
+  bool leaving_ = false;
   platform::Callback on_focus_gained_;
   platform::Callback on_focus_lost_;
 };

@@ -283,5 +283,25 @@
         <source>View the G/L distribution</source>
         <translation>Voir la ventilation du grand livre</translation>
     </message>
+    <message>
+        <source>An invoice date is required</source>
+        <translation>Une date de facture est requise</translation>
+    </message>
+    <message>
+        <source>An invoice number / description is required</source>
+        <translation>Un numéro ou une description de facture est requis</translation>
+    </message>
+    <message>
+        <source>An invoice amount is required</source>
+        <translation>Un montant de facture est requis</translation>
+    </message>
+    <message>
+        <source>The invoice amount does not equal the G/L Distribution amount. Please click the &quot;View Dist&quot; button.</source>
+        <translation>Le montant de la facture ne correspond pas au montant de la ventilation du grand livre. Cliquez sur le bouton « Ventil. ».</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>Courriel</translation>
+    </message>
 </context>
 </TS>
