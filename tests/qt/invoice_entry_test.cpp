@@ -208,6 +208,14 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount (USD)",
                                              "Accounting Rate", "Invoice Amount (CAD)", "View Dist"}));
     QCOMPARE(ClippedColumns(), QStringList());
+    // The grid shows the rate as kept, and the Canadian amount is exactly that rate times the
+    // foreign amount (not 1.2346, not the float's binary value).
+    invoices_->SetCurrencyRate(1.234567f);
+    invoices_->AddInvoice(QDate(2026, 2, 1), "US-1", Money("1000"));
+    testing::Settle();
+    const QAbstractItemModel* model = Grid()->model();
+    QCOMPARE(model->index(0, 4).data().toString(), QString("1.234567"));
+    QCOMPARE(model->index(0, 5).data().toString(), QString("1234.57"));
   }
 };
 
