@@ -373,7 +373,15 @@ void InvoiceEntry::AfterRowEdit() {
 
 void InvoiceEntry::Convert(int index, int changed_column) {
   InvoiceStore::Row row = store_.At(index);
-  switch (Converted(row, changed_column)) {
+  Conversion conversion = Conversion::kNone;
+  try {
+    conversion = Converted(row, changed_column);
+  } catch (const HostError&) {
+    // A product or quotient past the currency range (a rate far from any real one): the payer
+    // hears it, and the row keeps what was typed, unconverted.
+    host_.Beep();
+  }
+  switch (conversion) {
     case Conversion::kDone: store_.Put(index, std::move(row)); break;
     case Conversion::kOutOfRange: grid_.Engine().PostMessage(kForeignRangeMessage); break;
     case Conversion::kNone: break;
