@@ -122,7 +122,6 @@ class InvoiceEntry {
   void DeleteByEmailFilename(const std::string& strFilename);
   // Kept as the shortest decimal that reads back as `rate`; NaN and infinities raise Overflow.
   void SetCurrencyRate(float rate);
-  const Rate& CurrencyRate() const { return currency_rate_; }
   void SetIPCurrency(const std::string& code);
   // The library's shared currency code, shown in the foreign amount's caption.
   void SetOtherCurrencyCode(const Variant& code);
