@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <ostream>
 
 #include "tests/error_number.h"
 
@@ -18,6 +19,8 @@ struct SingleCase {
   float value;
   const char* shown;
 };
+
+void PrintTo(const SingleCase& c, std::ostream* out) { *out << c.shown; }
 
 class RateFromSingle : public ::testing::TestWithParam<SingleCase> {};
 
@@ -46,6 +49,8 @@ struct ConversionCase {
   const char* foreign;
   const char* home;
 };
+
+void PrintTo(const ConversionCase& c, std::ostream* out) { *out << c.foreign << " at " << c.rate; }
 
 class RateConversion : public ::testing::TestWithParam<ConversionCase> {};
 

@@ -10,6 +10,7 @@
 #include "zenta/qt/invoice_entry.h"
 #include "tests/qt/host_window.h"
 #include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
@@ -164,6 +165,29 @@ class InvoiceEntryTest : public QObject {
     invoices_->SetInvoiceValues(1, QString("not an invoice"));
     QCOMPARE(errors.count(), 2);
     QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString("A-1"));
+  }
+
+  void aNewInvoiceOnAFullListTellsThePayerAndCurrentRowNeverWraps() {
+    InvoiceStore& store = invoices_->Control().Store();
+    InvoiceStore::Row row;
+    row.date = FromQDate(QDate::currentDate());
+    row.number = "N";
+    row.amount = Money("1");
+    for (int i = 0; i < InvoiceStore::kMaxRows; ++i) store.Put(store.TargetRowForAdd("test"), row);
+    invoices_->Rebind();
+    testing::Settle();
+    Grid()->scrollToBottom();
+    QVERIFY(ClickCell(Grid(), 32767, kNumber));
+    QCOMPARE(invoices_->CurrentRow(), short{0});
+    TypeKeys("ONE MORE");
+    QString told;
+    testing::AnswerNextMessage(QMessageBox::Ok, [&told](QMessageBox& box) { told = box.text(); });
+    next_field_->setFocus(Qt::TabFocusReason);
+    testing::Settle();
+    QCOMPARE(told, QString("The list is full: it holds at most 32,767 invoices. Delete one, or clear a row, to add "
+                           "this invoice."));
+    QCOMPARE(invoices_->RowCount(), short{32767});
+    QCOMPARE(invoices_->CurrentRow(), short{0});
   }
 
   void coloursModeAndAccountPersistAndReachTheGrid() {

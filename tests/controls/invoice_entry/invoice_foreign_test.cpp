@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 #include "tests/controls/invoice_entry/invoice_screen.h"
 #include "zenta/core/host_error.h"
@@ -40,6 +41,8 @@ struct TypedCase {
   const char* rate_shown;
   const char* home;
 };
+
+void PrintTo(const TypedCase& c, std::ostream* out) { *out << c.cents << " typed in column " << c.column << " at " << c.rate; }
 
 class TypedConversion : public InvoiceForeignTest, public ::testing::WithParamInterface<TypedCase> {};
 
