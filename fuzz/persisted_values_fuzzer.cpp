@@ -7,6 +7,7 @@
 #include <string>
 
 #include "zenta/controls/distribution/library_context.h"
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/controls/simple/govt_details.h"
 #include "zenta/controls/simple/std_payment.h"
@@ -18,7 +19,10 @@
 
 namespace {
 
-const char* const kKeys[] = {"BackColor", "Enabled", "BackColorTitle", "BusinessMode", "LockFields"};
+// Every key a control keeps: the small controls', PaymentDetails' and InvoiceEntry's.
+const char* const kKeys[] = {"BackColor",           "Enabled",           "BackColorTitle",      "BusinessMode",
+                             "LockFields",          "BackColorGridHeader", "BackColorGridFooter", "ForeColorGridHeader",
+                             "ForeColorGridFooter", "RowColorEven",      "RowColorOdd",         "DefaultGLAccount"};
 
 // Each input byte run becomes one value: a kind byte, then its payload.
 zenta::Variant ValueFrom(const std::uint8_t*& data, std::size_t& size) {
@@ -58,7 +62,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   zenta::PaymentDetails details(form.AddSurface("PaymentDetails1", 4800, 6000), host, context);
   payment.ReadProperties(bag);
   remittance.ReadProperties(bag);
+  zenta::InvoiceEntry invoices(form.AddSurface("InvoiceEntry1", 9060, 2415), host, context);
   details.ReadProperties(bag);
-  if (bag.RefusedKeys().size() > 3 * std::size(kKeys)) std::abort();
+  invoices.ReadProperties(bag);
+  // Each control reads each of its keys once: a key is refused at most once a control.
+  if (bag.RefusedKeys().size() > 4 * std::size(kKeys)) std::abort();
+  // What loaded is in force: the colours reach the grid, the mode its columns.
+  if (invoices.grInvoices().Engine().Colors().header_back != invoices.BackColorGridHeader()) std::abort();
   return 0;
 }

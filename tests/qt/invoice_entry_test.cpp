@@ -16,6 +16,7 @@
 #include "zenta/qt/invoice_entry.h"
 #include "tests/qt/host_window.h"
 #include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
@@ -221,6 +222,29 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString("A-1"));
   }
 
+  void aNewInvoiceOnAFullListTellsThePayerAndCurrentRowNeverWraps() {
+    InvoiceStore& store = invoices_->Control().Store();
+    InvoiceStore::Row row;
+    row.date = FromQDate(QDate::currentDate());
+    row.number = "N";
+    row.amount = Money("1");
+    for (int i = 0; i < InvoiceStore::kMaxRows; ++i) store.Put(store.TargetRowForAdd("test"), row);
+    invoices_->Rebind();
+    testing::Settle();
+    Grid()->scrollToBottom();
+    QVERIFY(ClickCell(Grid(), 32767, kNumber));
+    QCOMPARE(invoices_->CurrentRow(), short{0});
+    TypeKeys("ONE MORE");
+    QString told;
+    testing::AnswerNextMessage(QMessageBox::Ok, [&told](QMessageBox& box) { told = box.text(); });
+    next_field_->setFocus(Qt::TabFocusReason);
+    testing::Settle();
+    QCOMPARE(told, QString("The list is full: it holds at most 32,767 invoices. Delete one, or clear a row, to add "
+                           "this invoice."));
+    QCOMPARE(invoices_->RowCount(), short{32767});
+    QCOMPARE(invoices_->CurrentRow(), short{0});
+  }
+
   void coloursModeAndAccountPersistAndReachTheGrid() {
     QCOMPARE(invoices_->RowColorOdd(), QColor(255, 255, 255));
     QVERIFY(!invoices_->BusinessMode());
@@ -316,6 +340,14 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(VisibleCaptions(), (QStringList{"Invoice Date", "Invoice Number / Description", "Invoice Amount (USD)",
                                              "Accounting Rate", "Invoice Amount (CAD)", "View Dist"}));
     QCOMPARE(ClippedColumns(), QStringList());
+    // The grid shows the rate as kept, and the Canadian amount is exactly that rate times the
+    // foreign amount (not 1.2346, not the float's binary value).
+    invoices_->SetCurrencyRate(1.234567f);
+    invoices_->AddInvoice(QDate(2026, 2, 1), "US-1", Money("1000"));
+    testing::Settle();
+    const QAbstractItemModel* model = Grid()->model();
+    QCOMPARE(model->index(0, 4).data().toString(), QString("1.234567"));
+    QCOMPARE(model->index(0, 5).data().toString(), QString("1234.57"));
   }
 };
 

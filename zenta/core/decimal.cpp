@@ -31,7 +31,11 @@ Int128 DivideHalfEven(Int128 num, Int128 den) {
   return quotient;
 }
 
-std::optional<Decimal> DecimalFromDouble(double value) {
+namespace {
+// std::to_chars gives the shortest text that reads back as `value` in its own type, so a float
+// and the double it widens to have different shortest decimals (1.35f against 1.35000002...).
+template <class Floating>
+std::optional<Decimal> ShortestDecimal(Floating value) {
   if (!std::isfinite(value)) return std::nullopt;
   char buffer[64];
   auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific);
@@ -58,6 +62,10 @@ std::optional<Decimal> DecimalFromDouble(double value) {
   if (result.digits == 0) result.negative = false;
   return result;
 }
+}  // namespace
+
+std::optional<Decimal> DecimalFromDouble(double value) { return ShortestDecimal(value); }
+std::optional<Decimal> DecimalFromSingle(float value) { return ShortestDecimal(value); }
 
 std::optional<Decimal> ParseDecimal(std::string_view text) {
   while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);

@@ -20,6 +20,8 @@ struct Decimal {
 // The shortest decimal text that reads back as `value` (so 0.1 is 1/10, not its binary
 // neighbour). nullopt for NaN and infinities.
 std::optional<Decimal> DecimalFromDouble(double value);
+// The same for a float, read as a float: 1.35f is 135 / 100.
+std::optional<Decimal> DecimalFromSingle(float value);
 
 // Invariant text: blanks, optional sign, digits, optional "." and digits; nullopt otherwise.
 // Digits past the 37th significant one are summarised, so any length of text reads and rounds

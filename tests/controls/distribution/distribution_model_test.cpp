@@ -18,6 +18,7 @@ namespace {
 using Model = DistributionModel;
 
 Currency Money(const char* text) { return Currency::FromText(text); }
+Rate RateOf(const char* text) { return *Rate::Parse(text); }
 
 // One line of the table: account, column 2, column 3 (nullptr leaves the cell unset).
 struct Line {
@@ -224,7 +225,7 @@ TEST_P(DistributionConversion, RoundsHalfToEvenAtTheCent) {
   const ConversionCase& c = GetParam();
   Model model;
   model.SetVisibleInvoice(true);
-  model.SetCurrencyRate(Money(c.rate));
+  model.SetCurrencyRate(RateOf(c.rate));
   const auto converted = model.ConvertAmount(c.column, Variant(c.value));
   ASSERT_TRUE(converted.has_value());
   EXPECT_EQ(converted->column, c.target);
@@ -246,20 +247,20 @@ INSTANTIATE_TEST_SUITE_P(Table, DistributionConversion,
 
 TEST(DistributionConversionLimits, NothingWithoutInvoiceRateOrNumber) {
   Model model;
-  model.SetCurrencyRate(Money("1.35"));
+  model.SetCurrencyRate(RateOf("1.35"));
   EXPECT_FALSE(model.ConvertAmount(2, Variant("100")).has_value());
   model.SetVisibleInvoice(true);
   EXPECT_FALSE(model.ConvertAmount(2, Variant("")).has_value());
   EXPECT_FALSE(model.ConvertAmount(2, Variant("x")).has_value());
   EXPECT_FALSE(model.ConvertAmount(1, Variant("100")).has_value());
-  model.SetCurrencyRate(Currency());
+  model.SetCurrencyRate(Rate());
   EXPECT_FALSE(model.ConvertAmount(3, Variant("100")).has_value());
 }
 
 TEST(DistributionConversionLimits, OutOfRangeRaisesRatherThanWraps) {
-  EXPECT_THROW(ToHomeAmount(Currency::Max(), Money("2")), HostError);
-  EXPECT_THROW(FromHomeAmount(Currency::Max(), Money("0.5")), HostError);
-  EXPECT_THROW(FromHomeAmount(Money("1"), Currency()), HostError);
+  EXPECT_THROW(ToHomeAmount(Currency::Max(), RateOf("2")), HostError);
+  EXPECT_THROW(FromHomeAmount(Currency::Max(), RateOf("0.5")), HostError);
+  EXPECT_THROW(FromHomeAmount(Money("1"), Rate()), HostError);
 }
 
 struct FillCase {
@@ -322,7 +323,7 @@ TEST(DistributionFillFx, PutsTheCanadianRemainderAndItsForeignAmount) {
   model.SetTable(table);
   model.SetVisibleInvoice(true);
   model.SetIsFXPayment(true);
-  model.SetCurrencyRate(Money("1.35"));
+  model.SetCurrencyRate(RateOf("1.35"));
   model.SetAmountToDistribute(Money("135"));
   model.CalculateDistAmounts();
   ASSERT_TRUE(model.FillRemainingAmount(0));

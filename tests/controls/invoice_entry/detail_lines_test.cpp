@@ -35,5 +35,18 @@ TEST(DetailLinesTest, CutsFallAfterTheLastBlankOrHyphen) {
   EXPECT_EQ(DetailLineCount(std::string(27, 'D') + "     "), 1);
 }
 
+TEST(DetailLinesTest, CutsAndPaddingCountCharactersNotBytes) {
+  std::string thirty;
+  for (int i = 0; i < 30; ++i) thirty += "\u00e9";
+  std::string first, second = "\u00e9\u00e9\u00e9";
+  for (int i = 0; i < 27; ++i) first += "\u00e9";
+  second += std::string(24, ' ');
+  EXPECT_EQ(WrapDetailLines(thirty), (std::vector<std::string>{first, second}));
+  EXPECT_EQ(DetailLineCount(thirty), 2);
+  // A cut after a blank counts the accented letters before it as one character each.
+  const std::string words = "Fran\u00e7ois R\u00e9gis " + std::string(20, 'X');
+  EXPECT_EQ(WrapDetailLines(words).front(), "Fran\u00e7ois R\u00e9gis " + std::string(12, ' '));
+}
+
 }  // namespace
 }  // namespace zenta

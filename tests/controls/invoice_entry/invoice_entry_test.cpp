@@ -3,11 +3,14 @@
 #include <algorithm>
 
 #include "tests/controls/invoice_entry/invoice_screen.h"
+#include "tests/error_number.h"
 #include "zenta/core/host_error.h"
 #include "zenta/platform/headless/memory_property_bag.h"
 
 namespace zenta::testing {
 namespace {
+
+using test_support::ErrorNumberOf;
 
 class InvoiceEntryTest : public ::testing::Test, public InvoiceScreen {
  protected:
@@ -90,6 +93,51 @@ TEST_F(InvoiceEntryTest, TheFullListRaisesOverflowOnTheNextInvoiceAndKeepsItsRow
   }
   EXPECT_EQ(control.RowCount(), 32767);
   EXPECT_EQ(control.TotalAmount(), Money("32767"));
+}
+
+TEST_F(InvoiceEntryTest, ARaisedAddInvoiceLeavesNoRowBehind) {
+  control.SetBusinessMode(true);
+  control.AddInvoice(Day(2026, 2, 1), "A", Money("10"), Variant(Money("1")));
+  // Amount less a negative GST/HST passes the currency maximum.
+  EXPECT_EQ(ErrorNumberOf([&] { control.AddInvoice(Day(2026, 2, 1), "MAX", Currency::Max(), Variant(Money("-1"))); }), 6);
+  EXPECT_EQ(ErrorNumberOf([&] { control.AddInvoice(Day(2026, 2, 1), "B", Money("1"), Variant("x")); }), 13);
+  EXPECT_EQ(ErrorNumberOf([&] { control.AddInvoice(Day(2026, 2, 1), "C", Money("1"), Variant(), Variant("x")); }), 13);
+  EXPECT_EQ(control.RowCount(), 1);
+  EXPECT_EQ(control.TotalExpense(), Money("9"));
+  // A conversion past the currency range raises the same way.
+  control.SetBusinessMode(false);
+  control.SetIPCurrency("USD");
+  control.SetCurrencyRate(3e38f);
+  EXPECT_EQ(ErrorNumberOf([&] { control.AddInvoice(Day(2026, 2, 1), "D", Money("1")); }), 6);
+  EXPECT_EQ(control.RowCount(), 0);
+}
+
+TEST_F(InvoiceEntryTest, AnInvoiceTypedOnAFullListIsRefusedWithAMessageAndKeepsItsText) {
+  InvoiceStore& store = control.Store();
+  InvoiceStore::Row row;
+  row.date = Day(2026, 2, 1);
+  row.number = "N";
+  row.amount = Money("1");
+  for (int i = 0; i < InvoiceStore::kMaxRows; ++i) store.Put(store.TargetRowForAdd("test"), row);
+  Engine().Rebind();
+  user.ClickCell(Grid(), InvoiceStore::kMaxRows, InvoiceStore::kNumberColumn);
+  ASSERT_TRUE(Engine().IsAddNewRow(*Engine().CurrentRow()));
+  EXPECT_EQ(control.CurrentRow(), 0);
+  host.ExpectMessage(platform::MessageResult::Ok);
+  user.Type("ONE MORE\t");
+  user.LeaveControl();
+  ASSERT_EQ(host.MessagesShown().size(), 1u);
+  EXPECT_EQ(host.MessagesShown()[0].text,
+            "The list is full: it holds at most 32,767 invoices. Delete one, or clear a row, to add this invoice.");
+  EXPECT_EQ(control.RowCount(), InvoiceStore::kMaxRows);
+  EXPECT_EQ(Engine().CellText(InvoiceStore::kNumberColumn), "ONE MORE");
+  EXPECT_EQ(control.CurrentRow(), 0);
+  // Once the payer abandons the typing, the last row can be reached again.
+  user.ClickCell(Grid(), InvoiceStore::kMaxRows, InvoiceStore::kNumberColumn);
+  user.PressEscape();
+  user.PressEscape();
+  control.SetCurrentRow(InvoiceStore::kMaxRows);
+  EXPECT_EQ(control.CurrentRow(), InvoiceStore::kMaxRows);
 }
 
 TEST_F(InvoiceEntryTest, ThePayerTypesAnInvoiceAndTheHostHearsRecalculateAfterTheRowIsStored) {
@@ -229,7 +277,13 @@ TEST_F(InvoiceEntryTest, IsDataValidNamesTheFirstProblem) {
   EXPECT_EQ(reason, "You must enter the G/L Distribution. Please click the \"View Dist\" button.");
   EXPECT_EQ(Engine().CurrentColumn(), InvoiceStore::kViewDistColumn);
   control.Clear();
-  control.AddInvoice(Day(2026, 2, 1), std::string(256, 'L'), Money("0"));
+  // The limit counts characters: 255 accented letters (510 bytes) pass, one more does not.
+  std::string accented;
+  for (int i = 0; i < 255; ++i) accented += "\u00e9";
+  control.AddInvoice(Day(2026, 2, 1), accented, Money("0"));
+  EXPECT_TRUE(control.IsDataValid(reason, incomplete)) << reason;
+  control.Clear();
+  control.AddInvoice(Day(2026, 2, 1), accented + "L", Money("0"));
   EXPECT_FALSE(control.IsDataValid(reason, incomplete));
   EXPECT_EQ(reason, "The Invoice Number/Description cannot be more than 255 characters.");
 }
@@ -248,6 +302,14 @@ TEST_F(InvoiceEntryTest, DetailLinesCountOverEveryNumber) {
   EXPECT_EQ(control.ParsedLines().size(), 2u);
   control.PassInvoiceValues(2, multiple);
   EXPECT_FALSE(multiple);
+  // Thirty accented letters print on two lines, none split in half.
+  std::string thirty;
+  for (int i = 0; i < 30; ++i) thirty += "\u00e9";
+  control.AddInvoice(Day(2026, 2, 1), thirty, Money("1"));
+  EXPECT_EQ(control.InvoiceCount_DetailLines(), 5);
+  const auto accented = control.PassInvoiceValues(3, multiple);
+  ASSERT_EQ(accented.size(), 2u);
+  EXPECT_EQ(accented[1].Text, "\u00e9\u00e9\u00e9" + std::string(24, ' '));
 }
 
 TEST_F(InvoiceEntryTest, ForeignInvoicesConvertAtTheAccountingRateHalfToEven) {
@@ -316,6 +378,24 @@ TEST_F(InvoiceEntryTest, PropertiesRoundTripThroughTheHostsStore) {
   // Only BackColor reports a change to the host.
   control.SetBackColor(Rgb(5, 5, 5));
   EXPECT_EQ(host.ChangedProperties(), std::vector<std::string>{"BackColor"});
+}
+
+TEST_F(InvoiceEntryTest, ABadStoredValueFallsBackAloneAndIsNamed) {
+  headless::MemoryPropertyBag bag;
+  bag.Set("BackColor", Variant(static_cast<std::int32_t>(Rgb(4, 4, 4))));
+  bag.Set("Enabled", Variant("maybe"));                  // type mismatch
+  bag.Set("BackColorGridHeader", Variant(1e20));         // overflow
+  bag.Set("RowColorOdd", Variant(static_cast<std::int32_t>(Rgb(9, 9, 9))));
+  bag.Set("DefaultGLAccount", Variant::Null());          // invalid use of null
+  bag.Set("BusinessMode", Variant(true));
+  control.ReadProperties(bag);
+  EXPECT_EQ(bag.RefusedKeys(), (std::vector<std::string>{"Enabled", "BackColorGridHeader", "DefaultGLAccount"}));
+  EXPECT_EQ(control.BackColor(), Rgb(4, 4, 4));
+  EXPECT_TRUE(control.Enabled());
+  EXPECT_EQ(control.BackColorGridHeader(), colors::kTitleYellow);
+  EXPECT_EQ(control.RowColorOdd(), Rgb(9, 9, 9));
+  EXPECT_EQ(control.DefaultGLAccount(), "");
+  EXPECT_TRUE(control.BusinessMode());
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "zenta/core/currency.h"
+#include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
 #include "zenta/platform/array_2d.h"
 #include "zenta/platform/grid_notifications.h"
@@ -75,8 +76,8 @@ class DistributionModel {
   std::string PaymentColumnCaption() const;
   static std::string PlainPaymentColumnCaption() { return "Expense"; }
 
-  Currency CurrencyRate() const { return currency_rate_; }
-  void SetCurrencyRate(Currency rate) { currency_rate_ = rate; }
+  const Rate& CurrencyRate() const { return currency_rate_; }
+  void SetCurrencyRate(const Rate& rate) { currency_rate_ = rate; }
   bool VisibleInvoice() const { return visible_invoice_; }
   void SetVisibleInvoice(bool visible) { visible_invoice_ = visible; }
 
@@ -155,7 +156,7 @@ class DistributionModel {
   bool is_fx_payment_ = false;
   std::string fx_currency_code_;
   Currency distributed_total_;
-  Currency currency_rate_;
+  Rate currency_rate_;
   bool visible_invoice_ = false;
   int amount_column_ = kPaymentColumn;
   bool edit_rejected_ = false;

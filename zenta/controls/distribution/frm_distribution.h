@@ -47,7 +47,9 @@ class FrmDistribution {
   void SetPaymentFor(const Variant& vntPaymentFor);
   void SetVisibleInvoice(bool visible) { model_.SetVisibleInvoice(visible); }
   std::int16_t DistributionCount() const { return model_.DistributionCount(); }
-  void SetCurrencyRate(Currency rate) { model_.SetCurrencyRate(rate); }
+  // The host's currency rate is exact at four decimals; a control hands over its exact rate.
+  void SetCurrencyRate(Currency rate) { model_.SetCurrencyRate(Rate::FromCurrency(rate)); }
+  void SetCurrencyRate(const Rate& rate) { model_.SetCurrencyRate(rate); }
   bool IsFXPayment() const { return model_.IsFXPayment(); }
   void SetIsFXPayment(bool fx);
   void SetFXPayment();

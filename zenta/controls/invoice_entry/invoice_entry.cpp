@@ -4,12 +4,14 @@
 #include <cctype>
 
 #include "zenta/controls/distribution/distribution_handover.h"
+#include "zenta/controls/distribution/rate_conversion.h"
 #include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/distribution/view_dist_column.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
 #include "zenta/core/date_mask.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
+#include "zenta/core/utf8.h"
 #include "zenta/entry/amount_entry.h"
 #include "zenta/entry/amount_key_filter.h"
 #include "zenta/entry/enter_key.h"
@@ -25,7 +27,8 @@ using Col = InvoiceStore::Column;
 
 constexpr platform::TwipsRect kInvoiceGridRect{0, 0, 6120, 2415};
 constexpr platform::TwipsRect kDistributionGridRect{6180, 0, 2880, 2415};
-constexpr int kMaxNumberLength = 255;
+constexpr std::size_t kMaxNumberLength = 255;
+constexpr const char* kConversionSource = "InvoiceEntry";
 // "#######0.00": eight digits before the point, two after.
 constexpr entry::AmountDigitLimits kAmountDigits{8, 2};
 constexpr std::int64_t kForeignLimit = 9'999'999'99LL * (Currency::kScale / 100);
@@ -42,6 +45,8 @@ constexpr const char* kLongAgo =
 using texts::kGSTRequired;
 constexpr const char* kNumberTooLong = "The Invoice Number/Description cannot be more than 255 characters.";
 using texts::kNoDistribution;
+constexpr const char* kListFull =
+    "The list is full: it holds at most 32,767 invoices. Delete one, or clear a row, to add this invoice.";
 constexpr const char* kNotEqual =
     "The invoice amount does not equal the G/L Distribution amount. Please click the \"View Dist\" button.";
 
@@ -72,6 +77,14 @@ std::string Text(const Variant& value) {
   } catch (const HostError&) {
     return {};
   }
+}
+
+// A rate cell holds the exact rate as text, or a currency from before the mode was on.
+Rate RateOf(const Variant& value) {
+  if (value.GetType() == Variant::Type::String) {
+    if (const auto rate = Rate::Parse(value.ToString())) return *rate;
+  }
+  return Rate::FromCurrency(value.ToCurrency());
 }
 
 bool InForeignRange(Currency amount) { return amount.Units() >= -kForeignLimit && amount.Units() <= kForeignLimit; }
@@ -173,6 +186,15 @@ void InvoiceEntry::WireGrid() {
   platform::GridHandlers& on = grid_.Engine().Handlers();
   on.before_col_update = [this](platform::BeforeColUpdateArgs& args) { OnBeforeColUpdate(args); };
   on.after_col_update = [this](int column) { last_edited_column_ = column; };
+  on.before_update = [this](platform::CancelArgs& args) {
+    // A new row on a full list cannot be stored: the payer is told, and the typed row stays
+    // for a blank row to be made (or the typing to be abandoned).
+    const platform::GridEngine& engine = grid_.Engine();
+    const auto current = engine.CurrentRow();
+    if (!current || !engine.IsAddNewRow(*current) || store_.Count() < InvoiceStore::kMaxRows) return;
+    host_.ShowMessage({kListFull, "Invoice Entry", platform::MessageButtons::Ok, platform::MessageIcon::Information});
+    args.cancel = true;
+  };
   on.after_update = [this] {
     // The derived columns are worked out now, for the row just stored: the distribution window
     // may open before the posted refresh runs, and the cursor may have moved on by then.
@@ -214,9 +236,11 @@ void InvoiceEntry::WireGrid() {
   on.posted = [this](int message) { OnPosted(message); };
   on.format_text = [this](platform::FormatTextArgs& args) {
     if (args.column < Col::kAmountColumn || args.column > Col::kExpenseColumn || args.value.IsEmpty()) return;
-    const Currency value = args.value.ToCurrency();
-    const bool rate = ForeignMode() && args.column == Col::kGSTColumn;
-    args.text = FormatNumber(value, rate ? formats::kRate : formats::kAmount);
+    if (ForeignMode() && args.column == Col::kGSTColumn) {
+      args.text = RateOf(args.value).ToString();
+      return;
+    }
+    args.text = FormatNumber(args.value.ToCurrency(), formats::kAmount);
   };
 }
 
@@ -270,7 +294,7 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
       args.cancel = true;
       return;
     }
-    if (number.size() > kMaxNumberLength) {
+    if (utf8::Length(number) > kMaxNumberLength) {
       host_.ShowMessage({kNumberTooLong, "Invoice Number/Description Validation", platform::MessageButtons::Ok,
                          platform::MessageIcon::Information});
       number_refused_ = true;
@@ -355,24 +379,39 @@ void InvoiceEntry::AfterRowEdit() {
 
 void InvoiceEntry::Convert(int index, int changed_column) {
   InvoiceStore::Row row = store_.At(index);
-  const double rate = currency_rate_;
-  row.gst = Currency::FromDouble(rate);
+  Conversion conversion = Conversion::kNone;
+  try {
+    conversion = Converted(row, changed_column);
+  } catch (const HostError&) {
+    // A product or quotient past the currency range (a rate far from any real one): the payer
+    // hears it, and the row keeps what was typed, unconverted.
+    host_.Beep();
+  }
+  switch (conversion) {
+    case Conversion::kDone: store_.Put(index, std::move(row)); break;
+    case Conversion::kOutOfRange: grid_.Engine().PostMessage(kForeignRangeMessage); break;
+    case Conversion::kNone: break;
+  }
+}
+
+InvoiceEntry::Conversion InvoiceEntry::Converted(InvoiceStore::Row& row, int changed_column) const {
+  const Rate& rate = currency_rate_;
+  row.rate = rate;
+  try {
+    row.gst = rate.ToCurrency(kConversionSource);
+  } catch (const HostError&) {
+    row.gst.reset();  // a rate past the currency range has no four-decimal form for the record
+  }
   if (changed_column == Col::kExpenseColumn && row.expense) {
-    if (rate == 0) return;
-    const Currency foreign = row.expense->DividedBy(rate).RoundedTo(2);
-    if (!InForeignRange(foreign)) {
-      grid_.Engine().PostMessage(kForeignRangeMessage);
-      return;
-    }
+    if (rate.IsZero()) return Conversion::kNone;
+    const Currency foreign = FromHomeAmount(*row.expense, rate, kConversionSource);
+    if (!InForeignRange(foreign)) return Conversion::kOutOfRange;
     row.amount = foreign;
   } else if (row.amount) {
-    if (!InForeignRange(*row.amount)) {
-      grid_.Engine().PostMessage(kForeignRangeMessage);
-      return;
-    }
-    row.expense = row.amount->MultipliedBy(rate).RoundedTo(2);
+    if (!InForeignRange(*row.amount)) return Conversion::kOutOfRange;
+    row.expense = ToHomeAmount(*row.amount, rate, kConversionSource);
   }
-  store_.Put(index, std::move(row));
+  return Conversion::kDone;
 }
 
 void InvoiceEntry::Clear() {
@@ -467,7 +506,7 @@ void InvoiceEntry::ShowDistribution() {
   StyleDialogLines(dialog.Grid().Engine());
   dialog.SetIsFXPayment(ForeignMode());
   if (ForeignMode()) {
-    dialog.SetCurrencyRate(Currency::FromDouble(currency_rate_));
+    dialog.SetCurrencyRate(currency_rate_);
     dialog.SetFXCurrencyCode(ip_currency_);
   }
   clsDistributions existing;
@@ -573,7 +612,7 @@ bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
     for (int i = 0; i < store_.Count(); ++i) {
       const InvoiceStore::Row& row = store_.At(i);
       if (InvoiceStore::IsBlank(row)) continue;
-      if (row.number.size() > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
+      if (utf8::Length(row.number) > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
       const Currency lines = LinesTotal(row);
       const Currency due = Distributable(row);
       if (lines.IsZero() && !due.IsZero()) return Fail(InvalidReason, kNoDistribution, Col::kViewDistColumn);
@@ -584,7 +623,7 @@ bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
       const InvoiceStore::Row& row = store_.At(*current);
       if (!InvoiceStore::IsBlank(row)) {
         if (Trimmed(row.number).empty()) return Fail(InvalidReason, kNumberRequired, Col::kNumberColumn);
-        if (row.number.size() > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
+        if (utf8::Length(row.number) > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
         if (row.amount && LinesTotal(row).IsZero() && !Distributable(row).IsZero()) {
           return Fail(InvalidReason, kNoDistribution, Col::kViewDistColumn);
         }
@@ -646,9 +685,9 @@ void InvoiceEntry::SetInvoiceValues(std::int16_t /*TheRow*/, const Variant& valu
 
 bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Currency InvoiceAmount,
                               const Variant& GST, const Variant& bShowDistribution) {
-  const int index = store_.TargetRowForAdd("AddInvoice");
-  InvoiceStore::Row row = store_.At(index);
-  row.id = 0;
+  // Everything that can raise is worked out before the list is touched: a failed call leaves
+  // no row behind.
+  InvoiceStore::Row row;
   row.date = InvoiceDate;
   row.number = InvoiceNo;
   row.amount = InvoiceAmount;
@@ -657,10 +696,22 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
     row.gst = gst;
     row.expense = InvoiceAmount - gst;
   }
+  bool out_of_range = false;
+  if (ForeignMode()) {
+    InvoiceStore::Row converted = row;
+    const Conversion conversion = Converted(converted, Col::kAmountColumn);
+    out_of_range = conversion == Conversion::kOutOfRange;
+    if (conversion == Conversion::kDone) row = std::move(converted);
+  }
+  const bool show = !bShowDistribution.IsEmpty() && bShowDistribution.ToBool();
+  const int index = store_.TargetRowForAdd("AddInvoice");
+  // A blank row being filled keeps what the host attached to it.
+  row.payment_for = store_.At(index).payment_for;
+  row.email = store_.At(index).email;
   store_.Put(index, std::move(row));
-  if (ForeignMode()) Convert(index, Col::kAmountColumn);
+  if (out_of_range) grid_.Engine().PostMessage(kForeignRangeMessage);
   Rebind();
-  if (!bShowDistribution.IsEmpty() && bShowDistribution.ToBool()) {
+  if (show) {
     grid_.Engine().SetCurrentRow(index);
     ShowDistribution();
     RepositionAfterBulk();
@@ -700,7 +751,9 @@ std::int16_t InvoiceEntry::InvoiceCount() const {
 
 std::int16_t InvoiceEntry::CurrentRow() const {
   const auto current = grid_.Engine().CurrentRow();
-  return current ? static_cast<std::int16_t>(*current + 1) : 0;
+  // The add-new row of a full list has no row number a 16-bit row can hold.
+  if (!current || *current >= InvoiceStore::kMaxRows) return 0;
+  return static_cast<std::int16_t>(*current + 1);
 }
 
 void InvoiceEntry::SetCurrentRow(std::int16_t row) { grid_.Engine().SetCurrentRow(row - 1); }
@@ -713,6 +766,8 @@ void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
   Rebind();
   RepositionAfterBulk();
 }
+
+void InvoiceEntry::SetCurrencyRate(float rate) { currency_rate_ = Rate::FromSingle(rate, "CurrencyRate"); }
 
 void InvoiceEntry::SetIPCurrency(const std::string& code) {
   ip_currency_ = code;

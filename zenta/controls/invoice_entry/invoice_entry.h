@@ -13,6 +13,7 @@
 #include "zenta/core/currency.h"
 #include "zenta/core/date.h"
 #include "zenta/core/ole_color.h"
+#include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
 #include "zenta/platform/control_surface.h"
 #include "zenta/platform/grid.h"
@@ -115,11 +116,12 @@ class InvoiceEntry {
   void SetEmailFilename(std::int16_t TheRow, const std::string& TheEmailAddress);
   std::int16_t InvoiceCount_DetailLines() const;
   std::int16_t InvoiceCount() const;
-  // 0 when the grid has no current row.
+  // 0 when the grid has no current row, and on the add-new row of a full list.
   std::int16_t CurrentRow() const;
   void SetCurrentRow(std::int16_t row);
   void DeleteByEmailFilename(const std::string& strFilename);
-  void SetCurrencyRate(float rate) { currency_rate_ = rate; }
+  // Kept as the shortest decimal that reads back as `rate`; NaN and infinities raise Overflow.
+  void SetCurrencyRate(float rate);
   void SetIPCurrency(const std::string& code);
   // The library's shared currency code, shown in the foreign amount's caption.
   void SetOtherCurrencyCode(const Variant& code);
@@ -170,7 +172,10 @@ class InvoiceEntry {
   int CheckedRow(std::int16_t TheRow) const;
   Currency Distributable(const InvoiceStore::Row& row) const;
   Currency LinesTotal(const InvoiceStore::Row& row) const;
+  enum class Conversion { kDone, kNone, kOutOfRange };
   void Convert(int row, int changed_column);
+  // The row's rate and the amount its changed column derives; raises Overflow past the range.
+  Conversion Converted(InvoiceStore::Row& row, int changed_column) const;
   // Yes to a Yes/No question.
   bool Ask(const char* question, const char* title);
   void OnPosted(int message);
@@ -192,7 +197,7 @@ class InvoiceEntry {
   InvoiceProperties properties_;
   InvoiceStore store_;
   InvoiceLinesSource lines_source_{store_};
-  float currency_rate_ = 0;
+  Rate currency_rate_;
   std::string ip_currency_{LibraryContext::kHomeCurrency};
   int last_edited_column_ = InvoiceStore::kAmountColumn;
   int pending_row_ = 0;

@@ -124,7 +124,8 @@ Variant InvoiceStore::Cell(int row, int column) const {
     case kDateColumn: return r.date ? Variant(*r.date) : Variant();
     case kNumberColumn: return Variant(r.number);
     case kAmountColumn: return Optional(r.amount);
-    case kGSTColumn: return Optional(r.gst);
+    // The rate as text: a currency cell would cut it to four decimals.
+    case kGSTColumn: return r.rate ? Variant(r.rate->ToString()) : Optional(r.gst);
     case kExpenseColumn: return Optional(r.expense);
     case kPaymentForColumn: return Variant(r.payment_for);
     case kEmailColumn: return Variant(r.email);
@@ -137,7 +138,12 @@ void InvoiceStore::ApplyCell(Row& row, int column, const Variant& value) {
     case kDateColumn: row.date = Unset(value) ? std::nullopt : std::optional<Date>(value.ToDate()); break;
     case kNumberColumn: row.number = Unset(value) ? std::string() : value.ToString(); break;
     case kAmountColumn: row.amount = AmountOf(value); break;
-    case kGSTColumn: row.gst = AmountOf(value); break;
+    case kGSTColumn:
+      // The rate's own text coming back unchanged keeps the exact rate.
+      if (row.rate && value.GetType() == Variant::Type::String && Rate::Parse(value.ToString()) == row.rate) break;
+      row.gst = AmountOf(value);
+      row.rate.reset();
+      break;
     case kExpenseColumn: row.expense = AmountOf(value); break;
     case kPaymentForColumn: row.payment_for = Unset(value) ? std::string() : value.ToString(); break;
     case kEmailColumn: row.email = Unset(value) ? std::string() : value.ToString(); break;

@@ -9,6 +9,7 @@
 
 #include "zenta/core/currency.h"
 #include "zenta/core/date.h"
+#include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
 #include "zenta/platform/grid_source.h"
 
@@ -50,6 +51,9 @@ class InvoiceStore : public platform::GridSource {
     // Amount cells are empty until written, which is not the same as 0 for the blank-row rule.
     std::optional<Currency> amount;
     std::optional<Currency> gst;
+    // A foreign-currency row's rate, exact; column 4 shows it and gst holds it to four decimals
+    // for the invoice record, whose field is a currency.
+    std::optional<Rate> rate;
     std::optional<Currency> expense;
     std::string payment_for;
     std::string email;
