@@ -16,20 +16,25 @@ std::string clsDistributions::FoldKey(const std::string& key) { return utf8::ToU
 
 clsDistributions::Element clsDistributions::Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
                                                 const std::string& sKey) {
+  Append(ID, GLAccount, Amount, sKey);
+  return elements_.back();
+}
+
+void clsDistributions::Append(const Variant& ID, const std::string& GLAccount, Currency Amount,
+                              const std::string& sKey) {
   std::string folded = FoldKey(sKey);
   if (!folded.empty() && by_key_.count(folded) != 0) throw HostError::KeyAlreadyAssociated(kSource);
   // Blocks double, so a collection built line by line allocates O(log n) times.
   if (spare_.used == spare_.size) Reserve(std::max<std::size_t>(4, elements_.size()));
-  Element element(spare_.block, &spare_.block[spare_.used++]);
+  clsDistribution* element = &spare_.block[spare_.used++];
   element->ID = ID;
   element->GLAccount = GLAccount;
   element->Amount = Amount;
-  elements_.push_back(element);
+  elements_.emplace_back(spare_.block, element);
   if (!folded.empty()) {
-    by_key_.emplace(folded, element.get());
-    key_of_.emplace(element.get(), std::move(folded));
+    by_key_.emplace(folded, element);
+    key_of_.emplace(element, std::move(folded));
   }
-  return element;
 }
 
 void clsDistributions::Reserve(std::size_t count) {

@@ -26,6 +26,8 @@ class clsDistributions : public Object {
 
   Element Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
               const std::string& sKey = std::string());
+  // Add for a builder that does not keep the element.
+  void Append(const Variant& ID, const std::string& GLAccount, Currency Amount, const std::string& sKey = std::string());
   // Room for `count` more elements, so that adding them allocates nothing further.
   void Reserve(std::size_t count);
   // A position (any numeric variant, from 1) or a key (text).

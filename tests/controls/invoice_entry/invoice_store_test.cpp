@@ -87,7 +87,7 @@ TEST(InvoiceStoreTest, RemovingRowsDropsTheirLines) {
 
 // Sums, numbered rows and line count worked out from the rows themselves.
 struct Summary {
-  Currency amount, gst, expense;
+  Currency amount, gst, expense, line_amounts;
   int numbered = 0;
   std::size_t lines = 0;
   bool operator==(const Summary&) const = default;
@@ -101,13 +101,18 @@ Summary Scanned(const InvoiceStore& store) {
     s.gst += row.gst.value_or(Currency());
     s.expense += row.expense.value_or(Currency());
     s.numbered += row.number.find_first_not_of(' ') != std::string::npos ? 1 : 0;
-    if (const auto* lines = store.Lines(row.id)) s.lines += lines->size();
+    if (const auto* lines = store.Lines(row.id)) {
+      s.lines += lines->size();
+      for (const InvoiceLine& line : *lines) s.line_amounts += line.Amount;
+    }
   }
   return s;
 }
 
 Summary Kept(const InvoiceStore& store) {
-  return {store.TotalAmount(), store.TotalGST(), store.TotalExpense(), store.NumberedRows(), store.LineCount()};
+  Currency line_amounts;
+  for (int i = 0; i < store.Count(); ++i) line_amounts += store.LinesTotal(store.At(i).id);
+  return {store.TotalAmount(), store.TotalGST(), store.TotalExpense(), line_amounts, store.NumberedRows(), store.LineCount()};
 }
 
 TEST(InvoiceStoreTest, SumsCountsAndLinesFollowEveryKindOfChange) {

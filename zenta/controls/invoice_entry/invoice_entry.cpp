@@ -545,13 +545,7 @@ Currency InvoiceEntry::Distributable(const InvoiceStore::Row& row) const {
   return row.amount.value_or(Currency());
 }
 
-Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const {
-  Currency total;
-  if (const auto* lines = store_.Lines(row.id)) {
-    for (const InvoiceLine& line : *lines) total += line.Amount;
-  }
-  return total;
-}
+Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const { return store_.LinesTotal(row.id); }
 
 bool InvoiceEntry::Fail(std::string& InvalidReason, const std::string& reason, int column) {
   InvalidReason = reason;
@@ -652,7 +646,7 @@ std::shared_ptr<clsInvoice> InvoiceEntry::InvoiceValues(std::int16_t TheRow) con
   invoice->Distributions = std::make_shared<clsDistributions>();
   if (const auto* lines = store_.Lines(row.id)) {
     invoice->Distributions->Reserve(lines->size());
-    for (const InvoiceLine& line : *lines) invoice->Distributions->Add(line.ID, line.GLAccount, line.Amount);
+    for (const InvoiceLine& line : *lines) invoice->Distributions->Append(line.ID, line.GLAccount, line.Amount);
   }
   return invoice;
 }

@@ -69,7 +69,7 @@ void InvoiceStore::NoteBlank(int row) {
 void InvoiceStore::Forget(const Row& row) {
   if (row.id == 0) return;
   SetLines(row.id, {});
-  live_ids_.erase(row.id);
+  if (live_ids_.erase(row.id) != 0) free_ids_.push_back(row.id);
 }
 
 void InvoiceStore::Remove(int row) {
@@ -95,8 +95,16 @@ void InvoiceStore::Clear() {
 bool InvoiceStore::EnsureId(int row) {
   Row& target = rows_[static_cast<std::size_t>(row)];
   if (target.id != 0) return false;
-  // The counter wraps within 1..kMaxRows and passes over identifiers still in use; with at
-  // most kMaxRows rows one is always free.
+  // A given-back identifier first; otherwise the counter wraps within 1..kMaxRows and passes
+  // over identifiers still in use; with at most kMaxRows rows one is always free.
+  while (!free_ids_.empty()) {
+    const std::int16_t id = free_ids_.back();
+    free_ids_.pop_back();
+    if (live_ids_.contains(id)) continue;
+    target.id = id;
+    live_ids_.insert(id);
+    return true;
+  }
   do {
     id_counter_ = static_cast<std::int16_t>(id_counter_ >= kMaxRows ? 1 : id_counter_ + 1);
   } while (live_ids_.contains(id_counter_));
@@ -107,19 +115,29 @@ bool InvoiceStore::EnsureId(int row) {
 
 const std::vector<InvoiceLine>* InvoiceStore::Lines(std::int16_t id) const {
   if (id == 0) return nullptr;
-  const auto found = lines_.find(id);
-  return found == lines_.end() ? nullptr : &found->second;
+  if (id <= 0 || static_cast<std::size_t>(id) >= lines_.size()) return nullptr;
+  const InvoiceLines& entry = lines_[static_cast<std::size_t>(id)];
+  return entry.lines.empty() ? nullptr : &entry.lines;
+}
+
+Currency InvoiceStore::LinesTotal(std::int16_t id) const {
+  if (id <= 0 || static_cast<std::size_t>(id) >= lines_.size()) return Currency();
+  return Checked(lines_[static_cast<std::size_t>(id)].total);
 }
 
 void InvoiceStore::SetLines(std::int16_t id, std::vector<InvoiceLine> lines) {
-  const auto found = lines_.find(id);
-  if (found != lines_.end()) {
-    line_count_ -= found->second.size();
-    if (lines.empty()) lines_.erase(found);
+  if (id <= 0) return;
+  const auto at = static_cast<std::size_t>(id);
+  if (at >= lines_.size()) {
+    if (lines.empty()) return;
+    lines_.resize(at + 1);
   }
-  if (lines.empty()) return;
+  InvoiceLines& entry = lines_[at];
+  line_count_ -= entry.lines.size();
   line_count_ += lines.size();
-  lines_[id] = std::move(lines);
+  entry.total = 0;
+  for (const InvoiceLine& line : lines) entry.total += line.Amount.Units();
+  entry.lines = std::move(lines);
 }
 
 Variant InvoiceStore::Cell(int row, int column) const {

@@ -4,7 +4,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -81,6 +80,8 @@ class InvoiceStore : public platform::GridSource {
   bool EnsureId(int row);
   const std::vector<InvoiceLine>* Lines(std::int16_t id) const;
   void SetLines(std::int16_t id, std::vector<InvoiceLine> lines);
+  // The sum of the lines' amounts (0 without lines), exact.
+  Currency LinesTotal(std::int16_t id) const;
   std::size_t LineCount() const { return line_count_; }
 
   // Sums over every row, exact.
@@ -118,8 +119,16 @@ class InvoiceStore : public platform::GridSource {
   }
 
   std::vector<Row> rows_;
-  std::unordered_map<std::int16_t, std::vector<InvoiceLine>> lines_;
+  // Lines by row identifier (1 to kMaxRows), each invoice's with their exact sum.
+  struct InvoiceLines {
+    std::vector<InvoiceLine> lines;
+    Sum total = 0;
+  };
+  std::vector<InvoiceLines> lines_;
   std::unordered_set<std::int16_t> live_ids_;
+  // Identifiers given back: a nearly full list finds a free one at once instead of passing
+  // over every identifier in use.
+  std::vector<std::int16_t> free_ids_;
   std::int16_t id_counter_ = 0;
   // No row below this index is blank; rows from it on may be.
   std::size_t blank_from_ = 0;

@@ -9,20 +9,6 @@ void Host::InjectKeys(const std::string& keys) {
   injected_.push_back(keys);
 }
 
-void Host::ValueChanged(std::string_view property) {
-  const auto found = value_changes_.find(property);
-  if (found != value_changes_.end()) {
-    ++found->second;
-  } else {
-    value_changes_.emplace(std::string(property), 1);
-  }
-}
-
-int Host::ValueChanges(std::string_view property) const {
-  const auto found = value_changes_.find(property);
-  return found == value_changes_.end() ? 0 : found->second;
-}
-
 void Host::Post(std::function<void()> action) { form_.Post(std::move(action)); }
 
 void Host::RaiseEvent(platform::RaisedEvent& event) {

@@ -2,7 +2,6 @@
 
 #include <deque>
 #include <functional>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -30,7 +29,9 @@ class Host : public platform::HostServices {
   explicit Host(Form& form) : form_(form) {}
 
   void MarkPropertyChanged(const std::string& name) override { changed_.push_back(name); }
-  void ValueChanged(std::string_view property) override;
+  void ValueChanged(std::string_view property) override {
+    if (on_value_changed_) on_value_changed_(property);
+  }
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
@@ -56,8 +57,8 @@ class Host : public platform::HostServices {
   void ClearEvents() { events_.clear(); }
 
   const std::vector<std::string>& ChangedProperties() const { return changed_; }
-  // How often the control said that `property`'s value may have changed.
-  int ValueChanges(std::string_view property) const;
+  // Called with each property whose value the control says may have changed, typed or set.
+  void OnValueChanged(std::function<void(std::string_view)> listener) { on_value_changed_ = std::move(listener); }
   // Every keystroke script the control injected, in order ("{TAB}").
   const std::vector<std::string>& InjectedKeys() const { return injected_; }
 
@@ -72,7 +73,7 @@ class Host : public platform::HostServices {
   std::function<void(platform::RaisedEvent&)> on_event_;
   std::vector<platform::RaisedEvent> events_;
   std::vector<std::string> changed_;
-  std::map<std::string, int, std::less<>> value_changes_;
+  std::function<void(std::string_view)> on_value_changed_;
   std::vector<std::string> injected_;
   char32_t separator_ = U'.';
   int beeps_ = 0;
