@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "tests/qt/key_input.h"
+#include "tests/qt/notify_watch.h"
 
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/pmt_details.h"
@@ -238,6 +239,40 @@ class ControlsTest : public QObject {
     }
     remittance.setProperty("Amount", QVariant::fromValue(Currency::FromText("12.5")));
     QCOMPARE(remittance.property("Amount").value<Currency>(), Currency::FromText("12.5"));
+  }
+
+  // Every value a host can bind to signals its change once, whether set, typed or changed as a
+  // consequence of another value (a disabled control disables its fields).
+  void everyValueChangeIsSignalledOnce() {
+    using testing::SignalsMatchChanges;
+    // Each Place closes the window of the one before.
+    for (int kind = 0; kind < 3; ++kind) {
+      ControlWidget* control = kind == 0   ? static_cast<ControlWidget*>(Place<StdPayment>())
+                               : kind == 1 ? static_cast<ControlWidget*>(Place<PmtDetails>())
+                                           : static_cast<ControlWidget*>(Place<GovtDetails>());
+      QVERIFY(control);
+      QVERIFY(testing::WritingEveryPropertySignalsItsChanges(control));
+      QVERIFY(SignalsMatchChanges(control, "disabled", [&] { control->setEnabled(false); }));
+      QVERIFY(SignalsMatchChanges(control, "enabled", [&] { control->setEnabled(true); }));
+      QVERIFY(SignalsMatchChanges(control, "business mode", [&] { control->SetBusinessMode(!control->BusinessMode()); }));
+    }
+    auto* invoice = Place<PmtDetails>();
+    QVERIFY(invoice);
+    invoice->SetFocusInvoiceNumber();
+    QVERIFY(SignalsMatchChanges(invoice, "typed number", [] { Type("A"); }));
+    QVERIFY(SignalsMatchChanges(invoice, "typed date", [&] {
+      invoice->SetFocusInvoiceDate();
+      Type("20260304");
+    }));
+    auto* remittance = Place<GovtDetails>();
+    QVERIFY(remittance);
+    QVERIFY(SignalsMatchChanges(remittance, "statement only", [&] { remittance->SetStatementOnly(1); }));
+    QVERIFY(SignalsMatchChanges(remittance, "rows", [&] { remittance->SetRows(20); }));
+    QVERIFY(SignalsMatchChanges(remittance, "typed comment", [&] {
+      remittance->SetStatementOnly(0);
+      remittance->SetFocusComment();
+      Type("X");
+    }));
   }
 
   void theScreenRenders() {

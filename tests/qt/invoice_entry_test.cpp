@@ -15,6 +15,7 @@
 
 #include "zenta/qt/invoice_entry.h"
 #include "tests/qt/host_window.h"
+#include "tests/qt/notify_watch.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_surface.h"
@@ -157,6 +158,51 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(invoices_->TotalAmount(), Money("12.50"));
     QVERIFY(recalculate.count() >= 1);
     QVERIFY(totals.count() >= 1);
+  }
+
+  // A host loop calls the list thousands of times: each call signals exactly the values it
+  // changed, and nothing else.
+  void hostCallsSignalTheValuesTheyChangeOnce() {
+    using testing::SignalsMatchChanges;
+    QVERIFY(testing::WritingEveryPropertySignalsItsChanges(invoices_));
+    invoices_->SetBusinessMode(false);
+    const QDate today = QDate::currentDate();
+    QVERIFY(SignalsMatchChanges(invoices_, "add", [&] { invoices_->AddInvoice(today, "A-1", Money("5")); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "add zero", [&] { invoices_->AddInvoice(today, "A-2", Money("0")); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "add more", [&] { invoices_->AddInvoice(today, "A-3", Money("7")); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "email", [&] { invoices_->SetEmailFilename(2, "a.pdf"); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "values", [&] { invoices_->InvoiceValues(1); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "count", [&] { invoices_->InvoiceCount(); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "row", [&] { invoices_->SetCurrentRow(3); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "delete by email", [&] { invoices_->DeleteByEmailFilename("A.PDF"); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "foreign", [&] {
+      invoices_->SetCurrencyRate(1.25f);
+      invoices_->SetIPCurrency("USD");
+    }));
+    QVERIFY(SignalsMatchChanges(invoices_, "delete current", [&] { invoices_->DeleteCurrentRow(); }));
+    QVERIFY(SignalsMatchChanges(invoices_, "clear", [&] { invoices_->Clear(); }));
+  }
+
+  void typedRowsAndMovesSignalOnce() {
+    using testing::SignalsMatchChanges;
+    QVERIFY(ClickCell(Grid(), 0, kDate));
+    TypeKeys(Today());
+    PressKey(Qt::Key_Tab);
+    TypeKeys("INV-1");
+    PressKey(Qt::Key_Tab);
+    TypeKeys("1250");
+    QVERIFY(SignalsMatchChanges(invoices_, "row stored", [this] {
+      next_field_->setFocus(Qt::TabFocusReason);
+      testing::Settle();
+    }));
+    QCOMPARE(invoices_->TotalAmount(), Money("12.50"));
+    QCOMPARE(invoices_->RowCount(), short{1});
+    invoices_->AddInvoice(QDate::currentDate(), "INV-2", Money("3"));
+    QVERIFY(ClickCell(Grid(), 1, kNumber));
+    QVERIFY(SignalsMatchChanges(invoices_, "up", [] { PressKey(Qt::Key_Up); }));
+    QCOMPARE(invoices_->CurrentRow(), short{1});
+    QVERIFY(SignalsMatchChanges(invoices_, "down", [] { PressKey(Qt::Key_Down); }));
+    QCOMPARE(invoices_->CurrentRow(), short{2});
   }
 
   void tabPastTheLastAmountOpensTheWindowAndAnnouncesTheFirstSplit() {

@@ -9,6 +9,7 @@
 #include "tests/qt/distribution_lines.h"
 #include "zenta/qt/payment_details.h"
 #include "tests/qt/host_window.h"
+#include "tests/qt/notify_watch.h"
 #include "zenta/qt/testing/modal_scripts.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
@@ -40,6 +41,12 @@ class PaymentDetailsTest : public QObject {
   }
 
   void cleanup() { window_.reset(); }
+
+  void everyValueChangeIsSignalledOnce() {
+    QVERIFY(testing::WritingEveryPropertySignalsItsChanges(payment_));
+    QVERIFY(testing::SignalsMatchChanges(payment_, "gst", [&] { payment_->SetGST(Money("1.50")); }));
+    QVERIFY(testing::SignalsMatchChanges(payment_, "disabled", [&] { payment_->setEnabled(false); }));
+  }
 
   void aBusinessPaymentTabsIntoTheWindowAndSplitsTheNetExpense() {
     payment_->SetBusinessMode(true);

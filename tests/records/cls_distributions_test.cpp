@@ -104,6 +104,36 @@ TEST(clsDistributions, IteratesInPositionOrder) {
   EXPECT_EQ(accounts, "5100 5200 5300 ");
 }
 
+TEST(clsDistributions, ACopyAndItsOriginalNeverShareAnElement) {
+  clsDistributions original;
+  original.Reserve(8);
+  original.Add(Variant(), "5100", Currency::FromInteger(1));
+  clsDistributions copy = original;
+  const auto from_copy = copy.Add(Variant(), "5200", Currency::FromInteger(2));
+  const auto from_original = original.Add(Variant(), "5300", Currency::FromInteger(3));
+  EXPECT_NE(from_copy.get(), from_original.get());
+  EXPECT_EQ(from_copy->GLAccount, "5200");
+  clsDistributions moved = std::move(original);
+  moved.Add(Variant(), "5400", Currency(), "k");
+  EXPECT_EQ(moved.Item("K")->GLAccount, "5400");
+  EXPECT_EQ(moved.Count(), 3);
+  EXPECT_EQ(copy.Count(), 2);
+}
+
+TEST(clsDistributions, ReservedRoomAndBeyondKeepEveryLine) {
+  std::vector<clsDistributions::Element> held;
+  {
+    clsDistributions lines;
+    lines.Reserve(3);
+    for (int i = 0; i < 40; ++i) held.push_back(lines.Add(Variant(i), std::to_string(i), Currency::FromInteger(i), "k" + std::to_string(i)));
+    lines.Remove("K5");
+    lines.Add(Variant(), "again", Currency(), "k5");
+    EXPECT_EQ(lines.Item("k5")->GLAccount, "again");
+    EXPECT_EQ(lines.Item(6)->GLAccount, "6");
+  }
+  for (int i = 0; i < 40; ++i) EXPECT_EQ(held[static_cast<std::size_t>(i)]->GLAccount, std::to_string(i));
+}
+
 TEST(clsInvoice, StartsWithNoDistributions) {
   clsInvoice invoice;
   EXPECT_EQ(invoice.Distributions, nullptr);

@@ -13,6 +13,10 @@ constexpr const char* kBusinessMode = "BusinessMode";
 void Run(const std::function<void()>& hook) {
   if (hook) hook();
 }
+
+void AnnounceAll(platform::HostServices& host) {
+  for (const char* name : {kBackColor, kEnabled, kBackColorTitle, kBusinessMode}) host.ValueChanged(name);
+}
 }  // namespace
 
 CommonProperties::CommonProperties(platform::ControlSurface& surface, platform::HostServices& host,
@@ -25,6 +29,7 @@ void CommonProperties::InitNew() {
   surface_.SetEnabled(true);
   title_color_ = default_title_color_;
   Run(hooks_.apply_title_color);
+  AnnounceAll(host_);
 }
 
 void CommonProperties::Read(const platform::PropertyBag& bag) {
@@ -35,6 +40,7 @@ void CommonProperties::Read(const platform::PropertyBag& bag) {
   Run(hooks_.apply_title_color);
   business_mode_ = ReadFlag(bag, kBusinessMode, false);
   Run(hooks_.business_mode_changed);
+  AnnounceAll(host_);
 }
 
 void CommonProperties::Write(platform::PropertyBag& bag) const {
@@ -49,6 +55,7 @@ OleColor CommonProperties::BackColor() const { return surface_.BackColor(); }
 void CommonProperties::SetBackColor(OleColor color) {
   surface_.SetBackColor(color);
   host_.MarkPropertyChanged(kBackColor);
+  host_.ValueChanged(kBackColor);
 }
 
 bool CommonProperties::Enabled() const { return surface_.Enabled(); }
@@ -56,16 +63,19 @@ bool CommonProperties::Enabled() const { return surface_.Enabled(); }
 void CommonProperties::SetEnabled(bool enabled) {
   surface_.SetEnabled(enabled);
   Run(hooks_.propagate_enabled);
+  host_.ValueChanged(kEnabled);
 }
 
 void CommonProperties::SetBackColorTitle(OleColor color) {
   title_color_ = color;
   Run(hooks_.apply_title_color);
+  host_.ValueChanged(kBackColorTitle);
 }
 
 void CommonProperties::SetBusinessMode(bool on) {
   business_mode_ = on;
   Run(hooks_.business_mode_changed);
+  host_.ValueChanged(kBusinessMode);
 }
 
 }  // namespace zenta::entry

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "zenta/core/date.h"
 #include "zenta/platform/container_metrics.h"
@@ -17,6 +18,10 @@ class HostServices {
 
   // Tells the host that a persisted property changed at run time.
   virtual void MarkPropertyChanged(const std::string& name) = 0;
+  // The value `property` reads may have changed, typed or set: a toolkit turns it into its
+  // change notification instead of polling every property. Said at most a few times a change,
+  // so a host may compare the value with the last one it saw.
+  virtual void ValueChanged(std::string_view property) { (void)property; }
   // Queues keystrokes ("{TAB}") behind the notification being handled; returns at once.
   virtual void InjectKeys(const std::string& keys) = 0;
   virtual void RaiseEvent(RaisedEvent& event) = 0;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <span>
+
 #include "zenta/core/ole_color.h"
+#include "zenta/platform/field_value.h"
 #include "zenta/platform/property_bag.h"
 
 namespace zenta::qt {
@@ -23,6 +26,8 @@ class ControlBinding {
   virtual void SetBackColorTitle(OleColor color) = 0;
   virtual bool Enabled() const = 0;
   virtual void SetEnabled(bool enabled) = 0;
+  // The properties the control's child widgets hold, for change notification.
+  virtual std::span<const platform::FieldValue> FieldValues() const = 0;
 };
 
 // The binding to any control class with those members.
@@ -42,6 +47,13 @@ class BindingTo final : public ControlBinding {
   void SetBackColorTitle(OleColor color) override { c_.SetBackColorTitle(color); }
   bool Enabled() const override { return c_.Enabled(); }
   void SetEnabled(bool enabled) override { c_.SetEnabled(enabled); }
+  std::span<const platform::FieldValue> FieldValues() const override {
+    if constexpr (requires { Control::FieldValues(); }) {
+      return Control::FieldValues();
+    } else {
+      return {};
+    }
+  }
 
  private:
   Control& c_;

@@ -1,12 +1,14 @@
 #include "zenta/qt/control_widget.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QEvent>
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QMetaProperty>
 #include <QPointer>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <exception>
 
 #include "zenta/core/host_error.h"
@@ -61,27 +63,87 @@ void ControlWidget::DestroySurface() {
 
 void ControlWidget::Attach(std::unique_ptr<ControlBinding> binding) {
   control_ = std::move(binding);
-  host_->SetPropertyChangedSink([this](const std::string&) { NotifyChanges(); });
+  const QMetaObject* meta = metaObject();
+  for (int i = ControlWidget::staticMetaObject.propertyOffset(); i < meta->propertyCount(); ++i) {
+    const QMetaProperty property = meta->property(i);
+    if (!property.hasNotifySignal()) continue;
+    notifying_properties_.emplace(property.name(), i);
+    signal_properties_[property.notifySignalIndex()].push_back(i);
+  }
+  last_values_.resize(static_cast<std::size_t>(meta->propertyCount()));
+  is_pending_.resize(static_cast<std::size_t>(meta->propertyCount()));
+  host_->SetValueChangedSink([this](std::string_view property) { Announce(property); });
+  ++calls_;  // the defaults are the baseline, not a change
   control_->ReadProperties(DefaultsPropertyBag());
+  --calls_;
   setMinimumSize(minimumSizeHint());
   WatchChildren();
-  NotifyChanges();
+  TakeBaseline();
+}
+
+void ControlWidget::TakeBaseline() {
+  pending_.clear();
+  std::fill(is_pending_.begin(), is_pending_.end(), false);
+  notifying_ = true;
+  for (const auto& [name, index] : notifying_properties_) {
+    last_values_[static_cast<std::size_t>(index)] = metaObject()->property(index).read(this);
+  }
+  notifying_ = false;
 }
 
 void ControlWidget::WatchChildren() {
-  // Typed changes reach the NOTIFY signals through the fields' own change signals.
-  for (QLineEdit* edit : surface_->findChildren<QLineEdit*>()) {
-    connect(edit, &QLineEdit::textChanged, this, [this] { NotifyChanges(); });
+  // Typed changes reach the NOTIFY signals through the change signals of the fields that hold
+  // the values; the control names them.
+  for (const platform::FieldValue& value : control_->FieldValues()) {
+    QWidget* field = surface_->FindQWidget(std::string(value.field));
+    if (!field) continue;
+    auto [it, first] = watched_.try_emplace(field);
+    it->second.push_back(value.property);
+    if (!first) continue;
+    const std::vector<std::string_view>* properties = &it->second;  // node addresses are stable
+    auto announce = [this, properties] { Announce(*properties); };
+    field->installEventFilter(this);
+    QList<QLineEdit*> edits = field->findChildren<QLineEdit*>();
+    if (auto* edit = qobject_cast<QLineEdit*>(field)) edits.append(edit);
+    for (QLineEdit* edit : edits) connect(edit, &QLineEdit::textChanged, this, announce);
+    if (auto* check = qobject_cast<QCheckBox*>(field)) {
+      connect(check, &QCheckBox::stateChanged, this, announce);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(field)) {
+      connect(button, &QAbstractButton::toggled, this, announce);
+    }
+    if (auto* grid = qobject_cast<QAbstractItemView*>(field); grid && grid->model()) {
+      QAbstractItemModel* model = grid->model();
+      connect(model, &QAbstractItemModel::dataChanged, this, announce);
+      connect(model, &QAbstractItemModel::modelReset, this, announce);
+      connect(model, &QAbstractItemModel::rowsInserted, this, announce);
+      connect(model, &QAbstractItemModel::rowsRemoved, this, announce);
+    }
   }
-  for (QAbstractItemView* grid : surface_->findChildren<QAbstractItemView*>()) {
-    QAbstractItemModel* model = grid->model();
-    if (!model) continue;
-    connect(model, &QAbstractItemModel::dataChanged, this, [this] { NotifyChanges(); });
-    connect(model, &QAbstractItemModel::modelReset, this, [this] { NotifyChanges(); });
+}
+
+bool ControlWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::EnabledChange) {
+    const auto found = watched_.find(watched);
+    if (found != watched_.end()) Announce(found->second);
   }
-  for (QAbstractButton* button : surface_->findChildren<QAbstractButton*>()) {
-    connect(button, &QAbstractButton::toggled, this, [this] { NotifyChanges(); });
+  return QWidget::eventFilter(watched, event);
+}
+
+void ControlWidget::Announce(std::string_view property) const noexcept {
+  const auto found = notifying_properties_.find(property);
+  if (found == notifying_properties_.end()) return;
+  const auto index = static_cast<std::size_t>(found->second);
+  if (!is_pending_[index]) {
+    is_pending_[index] = true;
+    pending_.push_back(found->second);
   }
+  if (calls_ == 0) NotifyChanges();
+}
+
+void ControlWidget::Announce(const std::vector<std::string_view>& properties) const noexcept {
+  ++calls_;
+  for (std::string_view property : properties) Announce(property);
+  if (--calls_ == 0) NotifyChanges();
 }
 
 void ControlWidget::NotifyChanges() const noexcept {
@@ -89,22 +151,25 @@ void ControlWidget::NotifyChanges() const noexcept {
   notifying_ = true;
   try {
     const QMetaObject* meta = metaObject();
-    QList<int> emitted;  // a signal shared by two readings of one value goes out once
-    for (int i = 0; i < meta->propertyCount(); ++i) {
-      const QMetaProperty property = meta->property(i);
-      if (!property.hasNotifySignal() || i < ControlWidget::staticMetaObject.propertyOffset()) continue;
-      QVariant value = property.read(this);
-      auto [it, inserted] = last_values_.try_emplace(i, value);
-      if (inserted) continue;
-      if (it->second == value) continue;
-      it->second = std::move(value);
-      if (emitted.contains(property.notifySignalIndex())) continue;
-      emitted.append(property.notifySignalIndex());
-      property.notifySignal().invoke(const_cast<ControlWidget*>(this), Qt::DirectConnection);
+    // A slot may change more values while this runs; those are appended and handled here too.
+    for (std::size_t k = 0; k < pending_.size(); ++k) {
+      const int signal = meta->property(pending_[k]).notifySignalIndex();
+      bool changed = false;
+      for (int index : signal_properties_.at(signal)) {
+        is_pending_[static_cast<std::size_t>(index)] = false;
+        QVariant value = meta->property(index).read(this);
+        QVariant& last = last_values_[static_cast<std::size_t>(index)];
+        if (last == value) continue;
+        last = std::move(value);
+        changed = true;
+      }
+      if (changed) meta->method(signal).invoke(const_cast<ControlWidget*>(this), Qt::DirectConnection);
     }
   } catch (...) {
     // A slot of the host's that throws is its own business; the control stays usable.
+    for (int index : pending_) is_pending_[static_cast<std::size_t>(index)] = false;
   }
+  pending_.clear();
   notifying_ = false;
 }
 
@@ -123,14 +188,20 @@ void ControlWidget::ReportCurrentException() const noexcept {
 }
 
 void ControlWidget::FinishEdit() {
-  for (QtNumberEdit* edit : surface_->findChildren<QtNumberEdit*>()) {
-    if (edit->hasFocus()) Guard([edit] { edit->FinishEdit(); });
+  // The toolkit's widgets have no meta-object of their own: findChildren<QtNumberEdit*> would
+  // match every line edit, text boxes included.
+  for (QLineEdit* line : surface_->findChildren<QLineEdit*>()) {
+    auto* edit = dynamic_cast<QtNumberEdit*>(line);
+    if (edit && edit->hasFocus()) Guard([edit] { edit->FinishEdit(); });
   }
 }
 
 QColor ControlWidget::BackColor() const { return ToQColor(control_->BackColor(), palette()); }
 void ControlWidget::SetBackColor(const QColor& color) {
-  Guard([&] { control_->SetBackColor(FromQColor(color)); });
+  Guard([&] {
+    control_->SetBackColor(FromQColor(color));
+    Announce("BackColor");
+  });
 }
 
 bool ControlWidget::BusinessMode() const { return control_->BusinessMode(); }
@@ -140,7 +211,10 @@ void ControlWidget::SetBusinessMode(bool on) {
 
 QColor ControlWidget::BackColorTitle() const { return ToQColor(control_->BackColorTitle(), palette()); }
 void ControlWidget::SetBackColorTitle(const QColor& color) {
-  Guard([&] { control_->SetBackColorTitle(FromQColor(color)); });
+  Guard([&] {
+    control_->SetBackColorTitle(FromQColor(color));
+    Announce("BackColorTitle");
+  });
 }
 
 bool ControlWidget::Enabled() const { return control_->Enabled(); }
@@ -148,6 +222,7 @@ void ControlWidget::SetEnabled(bool enabled) {
   Guard([&] {
     control_->SetEnabled(enabled);
     setEnabled(enabled);
+    Announce("Enabled");
   });
 }
 
@@ -159,7 +234,12 @@ void ControlWidget::changeEvent(QEvent* event) {
   // QWidget::setEnabled on this widget (not a parent's) is the control's Enabled.
   if (event->type() == QEvent::EnabledChange && control_) {
     const bool own = !testAttribute(Qt::WA_ForceDisabled);
-    if (own != control_->Enabled()) Guard([&] { control_->SetEnabled(own); });
+    if (own != control_->Enabled()) {
+      Guard([&] {
+        control_->SetEnabled(own);
+        Announce("Enabled");
+      });
+    }
   }
   QWidget::changeEvent(event);
 }
@@ -180,9 +260,15 @@ void ControlWidget::SaveProperties(QSettings* settings, const QString& group) co
 }
 
 void ControlWidget::ReadProperties(const platform::PropertyBag& bag) {
-  control_->ReadProperties(bag);
-  setEnabled(control_->Enabled());
-  NotifyChanges();
+  ++calls_;
+  try {
+    control_->ReadProperties(bag);
+    setEnabled(control_->Enabled());
+  } catch (...) {
+    if (--calls_ == 0) NotifyChanges();
+    throw;
+  }
+  if (--calls_ == 0) NotifyChanges();
 }
 
 void ControlWidget::WriteProperties(platform::PropertyBag& bag) const { control_->WriteProperties(bag); }

@@ -5,8 +5,10 @@
 #include <QSettings>
 #include <QVariantList>
 #include <QWidget>
-#include <map>
 #include <memory>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
 
 #include "zenta/platform/property_bag.h"
 #include "zenta/platform/raised_event.h"
@@ -92,34 +94,53 @@ class ControlWidget : public QWidget {
   // Emits the typed signal for an event the control raised.
   virtual void EmitTyped(platform::RaisedEvent& event) = 0;
 
-  // Runs a call into the control; a refusal becomes HostErrorRaised and false. Afterwards the
-  // NOTIFY signals of the properties it changed are emitted.
-  // A host that deletes the widget from a slot the call reached gets nothing further.
+  // Runs a call into the control; a refusal becomes HostErrorRaised and false. Once the
+  // outermost call has returned, the NOTIFY signals of the values it changed are emitted. A
+  // host that deletes the widget from a slot the call reached gets nothing further.
   template <class Call>
   bool Guard(Call&& call) const noexcept {
     const QPointer<const ControlWidget> self(this);
+    ++calls_;
+    bool done = true;
     try {
       call();
     } catch (...) {
       if (self) ReportCurrentException();
-      return false;
+      done = false;
     }
     if (!self) return false;
-    NotifyChanges();
-    return true;
+    if (--calls_ == 0) NotifyChanges();
+    return done;
   }
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void ReportCurrentException() const noexcept;
+  // The control said that `property` may have changed: its value is compared with the last one
+  // signalled, after the current call or at once outside one.
+  void Announce(std::string_view property) const noexcept;
+  void Announce(const std::vector<std::string_view>& properties) const noexcept;
+  // Reads only the announced properties and emits the NOTIFY signal of each that changed, once.
   void NotifyChanges() const noexcept;
+  void TakeBaseline();
   void WatchChildren();
 
   QtSurface* surface_;
   std::unique_ptr<QtHost> host_;
   std::unique_ptr<ControlBinding> control_;
-  mutable std::map<int, QVariant> last_values_;
+  // Property index by name (the names are the meta-object's own strings).
+  std::unordered_map<std::string_view, int> notifying_properties_;
+  // The properties each NOTIFY signal stands for, by signal index: read together, so that a
+  // signal shared by several readings of one value goes out once per change.
+  std::unordered_map<int, std::vector<int>> signal_properties_;
+  mutable std::vector<QVariant> last_values_;  // by property index
+  mutable std::vector<int> pending_;
+  mutable std::vector<bool> is_pending_;
+  // The properties each watched child widget holds.
+  std::unordered_map<const QObject*, std::vector<std::string_view>> watched_;
+  mutable int calls_ = 0;
   mutable bool notifying_ = false;
 };
 

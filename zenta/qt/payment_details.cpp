@@ -23,6 +23,7 @@ class PaymentBinding final : public ControlBinding {
   int MinimumHeight() const override { return zenta::PaymentDetails::kMinHeight; }
   OleColor BackColor() const override { return surface_.BackColor(); }
   void SetBackColor(OleColor color) override { surface_.SetBackColor(color); }
+  std::span<const platform::FieldValue> FieldValues() const override { return zenta::PaymentDetails::FieldValues(); }
   bool BusinessMode() const override { return c_.BusinessMode(); }
   void SetBusinessMode(bool on) override { c_.SetBusinessMode(on); }
   OleColor BackColorTitle() const override { return title_; }

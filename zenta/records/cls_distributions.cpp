@@ -1,5 +1,6 @@
 #include "zenta/records/cls_distributions.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "zenta/core/host_error.h"
@@ -15,16 +16,33 @@ std::string clsDistributions::FoldKey(const std::string& key) { return utf8::ToU
 
 clsDistributions::Element clsDistributions::Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
                                                 const std::string& sKey) {
+  Append(ID, GLAccount, Amount, sKey);
+  return elements_.back();
+}
+
+void clsDistributions::Append(const Variant& ID, const std::string& GLAccount, Currency Amount,
+                              const std::string& sKey) {
   std::string folded = FoldKey(sKey);
   if (!folded.empty() && by_key_.count(folded) != 0) throw HostError::KeyAlreadyAssociated(kSource);
-  auto element = std::make_shared<clsDistribution>();
+  // Blocks double, so a collection built line by line allocates O(log n) times.
+  if (spare_.used == spare_.size) Reserve(std::max<std::size_t>(4, elements_.size()));
+  clsDistribution* element = &spare_.block[spare_.used++];
   element->ID = ID;
   element->GLAccount = GLAccount;
   element->Amount = Amount;
-  elements_.push_back(element);
-  keys_.push_back(folded);
-  if (!folded.empty()) by_key_.emplace(folded, element.get());
-  return element;
+  elements_.emplace_back(spare_.block, element);
+  if (!folded.empty()) {
+    by_key_.emplace(folded, element);
+    key_of_.emplace(element, std::move(folded));
+  }
+}
+
+void clsDistributions::Reserve(std::size_t count) {
+  if (spare_.size - spare_.used >= count) return;
+  elements_.reserve(elements_.size() + count);
+  spare_.block = std::make_shared<clsDistribution[]>(count);
+  spare_.size = count;
+  spare_.used = 0;
 }
 
 std::size_t clsDistributions::IndexOf(const Variant& vntIndexKey) const {
@@ -52,17 +70,20 @@ clsDistributions::Element clsDistributions::Item(const Variant& vntIndexKey) con
 
 void clsDistributions::Remove(const Variant& vntIndexKey) {
   std::size_t index = IndexOf(vntIndexKey);
-  if (!keys_[index].empty()) by_key_.erase(keys_[index]);
+  const auto keyed = key_of_.find(elements_[index].get());
+  if (keyed != key_of_.end()) {
+    by_key_.erase(keyed->second);
+    key_of_.erase(keyed);
+  }
   elements_.erase(elements_.begin() + static_cast<std::ptrdiff_t>(index));
-  keys_.erase(keys_.begin() + static_cast<std::ptrdiff_t>(index));
 }
 
 void clsDistributions::Clear() {
   // The count goes through a 16-bit counter: past 32,767 it overflows before anything is removed.
   if (Count() > std::numeric_limits<std::int16_t>::max()) throw HostError::Overflow(kSource);
   elements_.clear();
-  keys_.clear();
   by_key_.clear();
+  key_of_.clear();
 }
 
 }  // namespace zenta

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "zenta/core/variant.h"
@@ -25,6 +26,10 @@ class clsDistributions : public Object {
 
   Element Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
               const std::string& sKey = std::string());
+  // Add for a builder that does not keep the element.
+  void Append(const Variant& ID, const std::string& GLAccount, Currency Amount, const std::string& sKey = std::string());
+  // Room for `count` more elements, so that adding them allocates nothing further.
+  void Reserve(std::size_t count);
   // A position (any numeric variant, from 1) or a key (text).
   Element Item(const Variant& vntIndexKey) const;
   std::int32_t Count() const { return static_cast<std::int32_t>(elements_.size()); }
@@ -40,8 +45,29 @@ class clsDistributions : public Object {
   static std::string FoldKey(const std::string& key);
 
   std::vector<Element> elements_;
-  std::vector<std::string> keys_;  // folded key of each element, empty for none
+  // Elements are carved from shared blocks: one allocation serves many lines, and a block
+  // lives while any of its elements is held. A copy of the collection starts without spare
+  // room, so two collections never hand out the same slot.
+  struct Spare {
+    std::shared_ptr<clsDistribution[]> block;
+    std::size_t size = 0;
+    std::size_t used = 0;
+    Spare() = default;
+    Spare(const Spare&) {}
+    Spare& operator=(const Spare&) { return *this; }
+    Spare(Spare&& other) noexcept : block(std::move(other.block)), size(other.size), used(other.used) {
+      other.size = other.used = 0;
+    }
+    Spare& operator=(Spare&& other) noexcept {
+      block = std::move(other.block);
+      size = std::exchange(other.size, 0);
+      used = std::exchange(other.used, 0);
+      return *this;
+    }
+  };
+  Spare spare_;
   std::unordered_map<std::string, const clsDistribution*> by_key_;
+  std::unordered_map<const clsDistribution*, std::string> key_of_;  // only the keyed elements
 };
 
 }  // namespace zenta

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <string_view>
 
 #include "zenta/controls/distribution/distribution_handover.h"
 #include "zenta/controls/distribution/rate_conversion.h"
@@ -89,6 +90,8 @@ Rate RateOf(const Variant& value) {
 
 bool InForeignRange(Currency amount) { return amount.Units() >= -kForeignLimit && amount.Units() <= kForeignLimit; }
 
+constexpr std::string_view kCurrentRow = "CurrentRow";
+
 }  // namespace
 
 InvoiceEntry::InvoiceEntry(platform::ControlSurface& surface, platform::HostServices& host, LibraryContext& context)
@@ -106,6 +109,21 @@ InvoiceEntry::InvoiceEntry(platform::ControlSurface& surface, platform::HostServ
   BuildLineColumns();
   distribution_grid_.Engine().SetSource(&lines_source_);
   ApplyColors();
+  store_.OnSummaryChanged([this] { AnnounceSummary(); });
+}
+
+void InvoiceEntry::AnnounceSummary() {
+  for (std::string_view name : {"RowCount", "TotalAmount", "TotalGST", "TotalExpense", "TotalForeignAmount"}) {
+    host_.ValueChanged(name);
+  }
+}
+
+void InvoiceEntry::AnnounceStoredProperties() {
+  for (std::string_view name : {"BackColor", "BusinessMode", "BackColorTitle", "Enabled", "DefaultGLAccount",
+                                "BackColorGridHeader", "BackColorGridFooter", "ForeColorGridHeader",
+                                "ForeColorGridFooter", "RowColorEven", "RowColorOdd"}) {
+    host_.ValueChanged(name);
+  }
 }
 
 InvoiceEntry::~InvoiceEntry() {
@@ -208,11 +226,15 @@ void InvoiceEntry::WireGrid() {
                   platform::MessageResult::No;
   };
   on.after_delete = [this] {
+    host_.ValueChanged(kCurrentRow);
     ShowCurrentLines(true);
     ScheduleTotals();
     events_.Recalculate();
   };
-  on.row_col_change = [this](std::optional<int>, int) { ShowCurrentLines(); };
+  on.row_col_change = [this](std::optional<int>, int) {
+    host_.ValueChanged(kCurrentRow);
+    ShowCurrentLines();
+  };
   distribution_grid_.Engine().Handlers().after_delete = [this] { ShowCurrentLines(true); };
   distribution_grid_.Engine().Handlers().before_delete = [this](platform::CancelArgs& args) {
     args.cancel = host_.ShowMessage({"Are you sure you want to delete this distribution?", "Delete this distribution?",
@@ -427,36 +449,54 @@ void InvoiceEntry::SetBackColor(OleColor color) {
   properties_.back_color = color;
   surface_.SetBackColor(color);
   host_.MarkPropertyChanged("BackColor");
+  host_.ValueChanged("BackColor");
 }
 
 void InvoiceEntry::SetBusinessMode(bool on) {
   properties_.business_mode = on;
+  host_.ValueChanged("BusinessMode");
   Clear();
+}
+
+void InvoiceEntry::SetBackColorTitle(OleColor color) {
+  properties_.back_color_title = color;
+  host_.ValueChanged("BackColorTitle");
+}
+
+void InvoiceEntry::SetDefaultGLAccount(std::string account) {
+  properties_.default_gl_account = std::move(account);
+  host_.ValueChanged("DefaultGLAccount");
 }
 
 void InvoiceEntry::SetBackColorGridHeader(OleColor color) {
   properties_.back_color_grid_header = color;
   ApplyColors();
+  host_.ValueChanged("BackColorGridHeader");
 }
 void InvoiceEntry::SetBackColorGridFooter(OleColor color) {
   properties_.back_color_grid_footer = color;
   ApplyColors();
+  host_.ValueChanged("BackColorGridFooter");
 }
 void InvoiceEntry::SetForeColorGridHeader(OleColor color) {
   properties_.fore_color_grid_header = color;
   ApplyColors();
+  host_.ValueChanged("ForeColorGridHeader");
 }
 void InvoiceEntry::SetForeColorGridFooter(OleColor color) {
   properties_.fore_color_grid_footer = color;
   ApplyColors();
+  host_.ValueChanged("ForeColorGridFooter");
 }
 void InvoiceEntry::SetRowColorEven(OleColor color) {
   properties_.row_color_even = color;
   ApplyColors();
+  host_.ValueChanged("RowColorEven");
 }
 void InvoiceEntry::SetRowColorOdd(OleColor color) {
   properties_.row_color_odd = color;
   ApplyColors();
+  host_.ValueChanged("RowColorOdd");
 }
 
 void InvoiceEntry::ApplyColors() {
@@ -482,6 +522,7 @@ void InvoiceEntry::ApplyColors() {
 void InvoiceEntry::SetEnabled(bool enabled) {
   properties_.enabled = enabled;
   ApplyEnabled();
+  host_.ValueChanged("Enabled");
 }
 
 void InvoiceEntry::ApplyEnabled() {
@@ -557,13 +598,7 @@ Currency InvoiceEntry::Distributable(const InvoiceStore::Row& row) const {
   return row.amount.value_or(Currency());
 }
 
-Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const {
-  Currency total;
-  if (const auto* lines = store_.Lines(row.id)) {
-    for (const InvoiceLine& line : *lines) total += line.Amount;
-  }
-  return total;
-}
+Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const { return store_.LinesTotal(row.id); }
 
 bool InvoiceEntry::Fail(std::string& InvalidReason, const std::string& reason, int column) {
   InvalidReason = reason;
@@ -663,7 +698,8 @@ std::shared_ptr<clsInvoice> InvoiceEntry::InvoiceValues(std::int16_t TheRow) con
   invoice->EmailFilename = row.email;
   invoice->Distributions = std::make_shared<clsDistributions>();
   if (const auto* lines = store_.Lines(row.id)) {
-    for (const InvoiceLine& line : *lines) invoice->Distributions->Add(line.ID, line.GLAccount, line.Amount);
+    invoice->Distributions->Reserve(lines->size());
+    for (const InvoiceLine& line : *lines) invoice->Distributions->Append(line.ID, line.GLAccount, line.Amount);
   }
   return invoice;
 }
@@ -721,6 +757,7 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
 
 void InvoiceEntry::Rebind() {
   grid_.Engine().Rebind();
+  host_.ValueChanged(kCurrentRow);
   ShowCurrentLines();
   ScheduleTotals();
 }
@@ -743,11 +780,7 @@ std::int16_t InvoiceEntry::InvoiceCount_DetailLines() const {
   return static_cast<std::int16_t>(lines);
 }
 
-std::int16_t InvoiceEntry::InvoiceCount() const {
-  int count = 0;
-  for (int i = 0; i < store_.Count(); ++i) count += Trimmed(store_.At(i).number).empty() ? 0 : 1;
-  return static_cast<std::int16_t>(count);
-}
+std::int16_t InvoiceEntry::InvoiceCount() const { return static_cast<std::int16_t>(store_.NumberedRows()); }
 
 std::int16_t InvoiceEntry::CurrentRow() const {
   const auto current = grid_.Engine().CurrentRow();
@@ -771,6 +804,8 @@ void InvoiceEntry::SetCurrencyRate(float rate) { currency_rate_ = Rate::FromSing
 
 void InvoiceEntry::SetIPCurrency(const std::string& code) {
   ip_currency_ = code;
+  // The totals read other columns in foreign-currency mode.
+  AnnounceSummary();
 }
 
 void InvoiceEntry::SetOtherCurrencyCode(const Variant& code) { context_.SetCurrencyCode(Text(code)); }
@@ -836,6 +871,7 @@ void InvoiceEntry::InitProperties() {
   ApplyColors();
   ApplyEnabled();
   Clear();
+  AnnounceStoredProperties();
 }
 
 void InvoiceEntry::ReadProperties(const platform::PropertyBag& bag) {
@@ -845,6 +881,8 @@ void InvoiceEntry::ReadProperties(const platform::PropertyBag& bag) {
   ApplyEnabled();
   ip_currency_ = std::string(LibraryContext::kHomeCurrency);
   Clear();
+  AnnounceStoredProperties();
+  AnnounceSummary();
 }
 
 }  // namespace zenta

@@ -89,11 +89,11 @@ class InvoiceEntry {
   OleColor RowColorOdd() const { return properties_.row_color_odd; }
   void SetRowColorOdd(OleColor color);
   OleColor BackColorTitle() const { return properties_.back_color_title; }
-  void SetBackColorTitle(OleColor color) { properties_.back_color_title = color; }
+  void SetBackColorTitle(OleColor color);
   // Opens the distribution window for the grid's current row.
   void ShowDistribution();
   const std::string& DefaultGLAccount() const { return properties_.default_gl_account; }
-  void SetDefaultGLAccount(std::string account) { properties_.default_gl_account = std::move(account); }
+  void SetDefaultGLAccount(std::string account);
   bool Enabled() const { return properties_.enabled; }
   void SetEnabled(bool enabled);
   // Never raises: every problem becomes the False result and its reason.
@@ -156,6 +156,10 @@ class InvoiceEntry {
 
  private:
   void BuildColumns();
+  // Tells the host which values may have changed: the row count and the totals follow the
+  // store, the rest the setters and the grid's cursor.
+  void AnnounceSummary();
+  void AnnounceStoredProperties();
   void BuildLineColumns();
   // Shows the current invoice's lines in grDistribution (again when they changed).
   void ShowCurrentLines(bool lines_changed = false);

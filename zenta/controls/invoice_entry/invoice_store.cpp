@@ -1,6 +1,7 @@
 #include "zenta/controls/invoice_entry/invoice_store.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "zenta/core/host_error.h"
 
@@ -34,12 +35,31 @@ int InvoiceStore::TargetRowForAdd(const char* source) {
   }
   if (Count() >= kMaxRows) throw HostError::Overflow(source);
   rows_.emplace_back();
+  Changed();
   return Count() - 1;
 }
 
 void InvoiceStore::Put(int row, Row value) {
-  rows_[static_cast<std::size_t>(row)] = std::move(value);
+  Row& target = rows_[static_cast<std::size_t>(row)];
+  Tally(target, -1);
+  target = std::move(value);
+  Tally(target, +1);
   NoteBlank(row);
+  Changed();
+}
+
+void InvoiceStore::Tally(const Row& row, int sign) {
+  if (row.amount) amount_sum_ += sign * static_cast<Sum>(row.amount->Units());
+  if (row.gst) gst_sum_ += sign * static_cast<Sum>(row.gst->Units());
+  if (row.expense) expense_sum_ += sign * static_cast<Sum>(row.expense->Units());
+  if (HasNumber(row)) numbered_rows_ += sign;
+}
+
+Currency InvoiceStore::Checked(Sum sum) {
+  if (sum > std::numeric_limits<std::int64_t>::max() || sum < std::numeric_limits<std::int64_t>::min()) {
+    throw HostError::Overflow("Currency");
+  }
+  return Currency::FromUnits(static_cast<std::int64_t>(sum));
 }
 
 void InvoiceStore::NoteBlank(int row) {
@@ -48,15 +68,17 @@ void InvoiceStore::NoteBlank(int row) {
 
 void InvoiceStore::Forget(const Row& row) {
   if (row.id == 0) return;
-  lines_.erase(row.id);
-  live_ids_.erase(row.id);
+  SetLines(row.id, {});
+  if (live_ids_.erase(row.id) != 0) free_ids_.push_back(row.id);
 }
 
 void InvoiceStore::Remove(int row) {
   const auto at = rows_.begin() + row;
+  Tally(*at, -1);
   Forget(*at);
   rows_.erase(at);
   blank_from_ = std::min(blank_from_, static_cast<std::size_t>(row));
+  Changed();
 }
 
 void InvoiceStore::Clear() {
@@ -64,13 +86,25 @@ void InvoiceStore::Clear() {
   lines_.clear();
   live_ids_.clear();
   blank_from_ = 0;
+  amount_sum_ = gst_sum_ = expense_sum_ = 0;
+  numbered_rows_ = 0;
+  line_count_ = 0;
+  Changed();
 }
 
 bool InvoiceStore::EnsureId(int row) {
   Row& target = rows_[static_cast<std::size_t>(row)];
   if (target.id != 0) return false;
-  // The counter wraps within 1..kMaxRows and passes over identifiers still in use; with at
-  // most kMaxRows rows one is always free.
+  // A given-back identifier first; otherwise the counter wraps within 1..kMaxRows and passes
+  // over identifiers still in use; with at most kMaxRows rows one is always free.
+  while (!free_ids_.empty()) {
+    const std::int16_t id = free_ids_.back();
+    free_ids_.pop_back();
+    if (live_ids_.contains(id)) continue;
+    target.id = id;
+    live_ids_.insert(id);
+    return true;
+  }
   do {
     id_counter_ = static_cast<std::int16_t>(id_counter_ >= kMaxRows ? 1 : id_counter_ + 1);
   } while (live_ids_.contains(id_counter_));
@@ -81,40 +115,29 @@ bool InvoiceStore::EnsureId(int row) {
 
 const std::vector<InvoiceLine>* InvoiceStore::Lines(std::int16_t id) const {
   if (id == 0) return nullptr;
-  const auto found = lines_.find(id);
-  return found == lines_.end() ? nullptr : &found->second;
+  if (id <= 0 || static_cast<std::size_t>(id) >= lines_.size()) return nullptr;
+  const InvoiceLines& entry = lines_[static_cast<std::size_t>(id)];
+  return entry.lines.empty() ? nullptr : &entry.lines;
+}
+
+Currency InvoiceStore::LinesTotal(std::int16_t id) const {
+  if (id <= 0 || static_cast<std::size_t>(id) >= lines_.size()) return Currency();
+  return Checked(lines_[static_cast<std::size_t>(id)].total);
 }
 
 void InvoiceStore::SetLines(std::int16_t id, std::vector<InvoiceLine> lines) {
-  if (lines.empty()) {
-    lines_.erase(id);
-  } else {
-    lines_[id] = std::move(lines);
+  if (id <= 0) return;
+  const auto at = static_cast<std::size_t>(id);
+  if (at >= lines_.size()) {
+    if (lines.empty()) return;
+    lines_.resize(at + 1);
   }
-}
-
-std::size_t InvoiceStore::LineCount() const {
-  std::size_t count = 0;
-  for (const auto& entry : lines_) count += entry.second.size();
-  return count;
-}
-
-Currency InvoiceStore::TotalAmount() const {
-  Currency total;
-  for (const Row& row : rows_) total += row.amount.value_or(Currency());
-  return total;
-}
-
-Currency InvoiceStore::TotalGST() const {
-  Currency total;
-  for (const Row& row : rows_) total += row.gst.value_or(Currency());
-  return total;
-}
-
-Currency InvoiceStore::TotalExpense() const {
-  Currency total;
-  for (const Row& row : rows_) total += row.expense.value_or(Currency());
-  return total;
+  InvoiceLines& entry = lines_[at];
+  line_count_ -= entry.lines.size();
+  line_count_ += lines.size();
+  entry.total = 0;
+  for (const InvoiceLine& line : lines) entry.total += line.Amount.Units();
+  entry.lines = std::move(lines);
 }
 
 Variant InvoiceStore::Cell(int row, int column) const {
@@ -153,16 +176,23 @@ void InvoiceStore::ApplyCell(Row& row, int column, const Variant& value) {
 
 void InvoiceStore::WriteRow(int row, const std::map<int, Variant>& cells) {
   Row& target = rows_[static_cast<std::size_t>(row)];
-  for (const auto& [column, value] : cells) ApplyCell(target, column, value);
+  Row written = target;
+  for (const auto& [column, value] : cells) ApplyCell(written, column, value);
+  Tally(target, -1);
+  target = std::move(written);
+  Tally(target, +1);
   NoteBlank(row);
+  Changed();
 }
 
 int InvoiceStore::AppendRow(const std::map<int, Variant>& cells) {
   if (Count() >= kMaxRows) throw HostError::Overflow("grInvoices");
   Row row;
   for (const auto& [column, value] : cells) ApplyCell(row, column, value);
+  Tally(row, +1);
   rows_.push_back(std::move(row));
   NoteBlank(Count() - 1);
+  Changed();
   return Count() - 1;
 }
 

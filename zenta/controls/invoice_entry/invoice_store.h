@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -27,7 +27,9 @@ struct InvoiceLine {
 // The invoice list and its distribution lines, sized for the 16-bit row numbers of the public
 // interface: at most kMaxRows rows. Every operation a host repeats over the list is constant or
 // linear: appending finds the first blank row without scanning when there is none, lines are
-// reached through the row identifier, and bulk deletion compacts in one pass.
+// reached through the row identifier, and bulk deletion compacts in one pass. The sums and the
+// count of numbered rows follow every change of a row, so reading them costs nothing per row;
+// they are exact (a sum out of Currency's range raises Overflow when read, as adding would).
 class InvoiceStore : public platform::GridSource {
  public:
   enum Column {
@@ -82,12 +84,21 @@ class InvoiceStore : public platform::GridSource {
   bool EnsureId(int row);
   const std::vector<InvoiceLine>* Lines(std::int16_t id) const;
   void SetLines(std::int16_t id, std::vector<InvoiceLine> lines);
-  std::size_t LineCount() const;
+  // The sum of the lines' amounts (0 without lines), exact.
+  Currency LinesTotal(std::int16_t id) const;
+  std::size_t LineCount() const { return line_count_; }
 
   // Sums over every row, exact.
-  Currency TotalAmount() const;
-  Currency TotalGST() const;
-  Currency TotalExpense() const;
+  Currency TotalAmount() const { return Checked(amount_sum_); }
+  Currency TotalGST() const { return Checked(gst_sum_); }
+  Currency TotalExpense() const { return Checked(expense_sum_); }
+  // Rows whose number holds more than blanks.
+  int NumberedRows() const { return numbered_rows_; }
+  static bool HasNumber(const Row& row) { return row.number.find_first_not_of(' ') != std::string::npos; }
+
+  // Called after every change of the row count, a sum or the numbered rows, so that a host
+  // can be told without polling.
+  void OnSummaryChanged(std::function<void()> callback) { summary_changed_ = std::move(callback); }
 
   // GridSource: the grid reads and writes the rows above, bookmarks from 0.
   int FirstRow() const override { return 0; }
@@ -99,16 +110,38 @@ class InvoiceStore : public platform::GridSource {
   void DeleteRow(int row) override { Remove(row); }
 
  private:
+  // Wide enough that no order of changes overflows before a read.
+  __extension__ typedef __int128 Sum;
+  static Currency Checked(Sum sum);
   void ApplyCell(Row& row, int column, const Variant& value);
   void Forget(const Row& row);
   void NoteBlank(int row);
+  // Adds (+1) or takes away (-1) a row's share of the sums and counts.
+  void Tally(const Row& row, int sign);
+  void Changed() const {
+    if (summary_changed_) summary_changed_();
+  }
 
   std::vector<Row> rows_;
-  std::unordered_map<std::int16_t, std::vector<InvoiceLine>> lines_;
+  // Lines by row identifier (1 to kMaxRows), each invoice's with their exact sum.
+  struct InvoiceLines {
+    std::vector<InvoiceLine> lines;
+    Sum total = 0;
+  };
+  std::vector<InvoiceLines> lines_;
   std::unordered_set<std::int16_t> live_ids_;
+  // Identifiers given back: a nearly full list finds a free one at once instead of passing
+  // over every identifier in use.
+  std::vector<std::int16_t> free_ids_;
   std::int16_t id_counter_ = 0;
   // No row below this index is blank; rows from it on may be.
   std::size_t blank_from_ = 0;
+  Sum amount_sum_ = 0;
+  Sum gst_sum_ = 0;
+  Sum expense_sum_ = 0;
+  int numbered_rows_ = 0;
+  std::size_t line_count_ = 0;
+  std::function<void()> summary_changed_;
 };
 
 template <class Pred>
@@ -116,6 +149,7 @@ int InvoiceStore::RemoveIf(Pred pred) {
   std::size_t kept = 0;
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     if (pred(static_cast<const Row&>(rows_[i]))) {
+      Tally(rows_[i], -1);
       Forget(rows_[i]);
       continue;
     }
@@ -125,6 +159,7 @@ int InvoiceStore::RemoveIf(Pred pred) {
   const int removed = static_cast<int>(rows_.size() - kept);
   rows_.resize(kept);
   blank_from_ = 0;
+  if (removed > 0) Changed();
   return removed;
 }
 

@@ -131,6 +131,7 @@ void PaymentDetails::SetBusinessMode(bool on) {
   properties_.business_mode = on;
   ShowBusinessMode();
   ClearPay();
+  host_.ValueChanged("BusinessMode");
 }
 
 void PaymentDetails::ShowBusinessMode() {
@@ -207,13 +208,17 @@ void PaymentDetails::ClearPay() {
 
 bool PaymentDetails::Enabled() const { return surface_.Enabled(); }
 
-void PaymentDetails::SetEnabled(bool enabled) { surface_.SetEnabled(enabled); }
+void PaymentDetails::SetEnabled(bool enabled) {
+  surface_.SetEnabled(enabled);
+  host_.ValueChanged("Enabled");
+}
 
 Variant PaymentDetails::PaymentFor() const { return Variant(CellText(kPaymentForColumn)); }
 
 void PaymentDetails::SetLockFields(bool locked) {
   properties_.lock_fields = locked;
   ApplyLockFields();
+  host_.ValueChanged("LockFields");
 }
 
 void PaymentDetails::ApplyLockFields() {
@@ -266,6 +271,7 @@ void PaymentDetails::ApplyProperties() {
   ShowBusinessMode();
   ClearPay();
   ApplyLockFields();
+  for (const char* name : {"BusinessMode", "LockFields", "Enabled", "BackColor", "BackColorTitle"}) host_.ValueChanged(name);
 }
 
 std::string PaymentDetails::CellText(int column) const { return grid_.Engine().CellText(column); }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <span>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "zenta/platform/field_value.h"
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/payment_details/payment_events.h"
 #include "zenta/controls/payment_details/payment_properties.h"
@@ -33,6 +35,17 @@ class PaymentDetails {
   static constexpr int kMinWidth = 2670;
   static constexpr int kMinHeight = 615;
 
+  // The public properties each child widget holds.
+  static std::span<const platform::FieldValue> FieldValues() {
+    static constexpr platform::FieldValue kValues[] = {
+        {"grdPaymentAmount", "PaymentAmount"},
+        {"grdPaymentAmount", "GST"},
+        {"grdPaymentAmount", "NetExpense"},
+        {"grdPaymentAmount", "PaymentFor"},
+    };
+    return kValues;
+  }
+
   PaymentDetails(platform::ControlSurface& surface, platform::HostServices& host, LibraryContext& context);
   ~PaymentDetails();
   PaymentDetails(const PaymentDetails&) = delete;
@@ -59,7 +72,10 @@ class PaymentDetails {
   // PayDistribution.
   void ShowDistribution();
   const std::string& DefaultGLAccount() const { return default_gl_account_; }
-  void SetDefaultGLAccount(std::string account) { default_gl_account_ = std::move(account); }
+  void SetDefaultGLAccount(std::string account) {
+    default_gl_account_ = std::move(account);
+    host_.ValueChanged("DefaultGLAccount");
+  }
   // One empty payment row and no distribution; mode, lock and default account stay.
   void ClearPay();
   bool Enabled() const;

@@ -85,6 +85,7 @@ void GovtDetails::ApplyStatementOnly() {
   platform::Widget* locked[] = {&w_.period_from, &w_.period_to, &w_.due_date,
                                 &w_.items,       &w_.comments,  &w_.other_amount};
   for (platform::Widget* widget : locked) widget->SetEnabled(!statement_only);
+  AnnounceFields();
   const OleColor paint = statement_only ? colors::k3DLight : colors::kWindowBackground;
   w_.comments.SetBackColor(paint);
   w_.other_amount.SetBackColor(paint);
@@ -156,21 +157,45 @@ void GovtDetails::SetRows(std::int16_t NumberofRows) {
 }
 
 bool GovtDetails::StatementOnlyEnabled() const { return w_.statement_only.Enabled(); }
-void GovtDetails::SetStatementOnlyEnabled(bool enabled) { w_.statement_only.SetEnabled(enabled); }
+void GovtDetails::SetStatementOnlyEnabled(bool enabled) {
+  w_.statement_only.SetEnabled(enabled);
+  host_.ValueChanged("StatementOnlyEnabled");
+}
 bool GovtDetails::PeriodFromEnabled() const { return w_.period_from.Enabled(); }
-void GovtDetails::SetPeriodFromEnabled(bool enabled) { w_.period_from.SetEnabled(enabled); }
+void GovtDetails::SetPeriodFromEnabled(bool enabled) {
+  w_.period_from.SetEnabled(enabled);
+  host_.ValueChanged("PeriodFromEnabled");
+}
 bool GovtDetails::PeriodToEnabled() const { return w_.period_to.Enabled(); }
-void GovtDetails::SetPeriodToEnabled(bool enabled) { w_.period_to.SetEnabled(enabled); }
+void GovtDetails::SetPeriodToEnabled(bool enabled) {
+  w_.period_to.SetEnabled(enabled);
+  host_.ValueChanged("PeriodToEnabled");
+}
 bool GovtDetails::DueDateEnabled() const { return w_.due_date.Enabled(); }
-void GovtDetails::SetDueDateEnabled(bool enabled) { w_.due_date.SetEnabled(enabled); }
+void GovtDetails::SetDueDateEnabled(bool enabled) {
+  w_.due_date.SetEnabled(enabled);
+  host_.ValueChanged("DueDateEnabled");
+}
 bool GovtDetails::CommentsEnabled() const { return w_.comments.Enabled(); }
-void GovtDetails::SetCommentsEnabled(bool enabled) { w_.comments.SetEnabled(enabled); }
+void GovtDetails::SetCommentsEnabled(bool enabled) {
+  w_.comments.SetEnabled(enabled);
+  host_.ValueChanged("CommentsEnabled");
+}
 bool GovtDetails::OtherAmountEnabled() const { return w_.other_amount.Enabled(); }
-void GovtDetails::SetOtherAmountEnabled(bool enabled) { w_.other_amount.SetEnabled(enabled); }
+void GovtDetails::SetOtherAmountEnabled(bool enabled) {
+  w_.other_amount.SetEnabled(enabled);
+  host_.ValueChanged("OtherAmountEnabled");
+}
 bool GovtDetails::AmountEnabled() const { return w_.payment_amount.Enabled(); }
-void GovtDetails::SetAmountEnabled(bool enabled) { w_.payment_amount.SetEnabled(enabled); }
+void GovtDetails::SetAmountEnabled(bool enabled) {
+  w_.payment_amount.SetEnabled(enabled);
+  host_.ValueChanged("AmountEnabled");
+}
 bool GovtDetails::GridEnabled() const { return w_.items.Enabled(); }
-void GovtDetails::SetGridEnabled(bool enabled) { w_.items.SetEnabled(enabled); }
+void GovtDetails::SetGridEnabled(bool enabled) {
+  w_.items.SetEnabled(enabled);
+  host_.ValueChanged("GridEnabled");
+}
 
 void GovtDetails::SetFocusPeriodFrom() { entry::SetFocusIfEnabled(w_.period_from); }
 void GovtDetails::SetFocusPeriodTo() { entry::SetFocusIfEnabled(w_.period_from); }

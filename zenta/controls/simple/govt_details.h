@@ -1,9 +1,11 @@
 #pragma once
 
+#include <span>
 #include <cstdint>
 #include <memory>
 #include <string>
 
+#include "zenta/platform/field_value.h"
 #include "zenta/controls/simple/govt_items_table.h"
 #include "zenta/controls/simple/small_control.h"
 #include "zenta/core/date.h"
@@ -27,6 +29,29 @@ class GovtDetails : public SmallControl {
 
   static constexpr int kMinWidth = 1860;
   static constexpr int kMinHeight = 5340;
+
+  // The public properties each child widget holds.
+  static std::span<const platform::FieldValue> FieldValues() {
+    static constexpr platform::FieldValue kValues[] = {
+        {"chkStatementOnly", "StatementOnly"},
+        {"chkStatementOnly", "StatementOnlyEnabled"},
+        {"dtPeriodFrom", "PeriodFrom"},
+        {"dtPeriodFrom", "PeriodFromEnabled"},
+        {"dtPeriodTo", "PeriodTo"},
+        {"dtPeriodTo", "PeriodToEnabled"},
+        {"dtDueDate", "DueDate"},
+        {"dtDueDate", "DueDateEnabled"},
+        {"grItems", "GridNumberofRows"},
+        {"grItems", "GridEnabled"},
+        {"txtComments", "Comments"},
+        {"txtComments", "CommentsEnabled"},
+        {"txtPaymentAmount", "Amount"},
+        {"txtPaymentAmount", "AmountEnabled"},
+        {"txtOtherAmount", "OtherAmount"},
+        {"txtOtherAmount", "OtherAmountEnabled"},
+    };
+    return kValues;
+  }
 
   GovtDetails(platform::ControlSurface& surface, platform::HostServices& host);
 
@@ -89,6 +114,7 @@ class GovtDetails : public SmallControl {
   void Shown() override;
   // The grid moves on Enter itself, through its amounts.
   bool EnterMovesOnFrom(const std::string& active_child) const override { return active_child != "grItems"; }
+  std::span<const platform::FieldValue> Fields() const override { return FieldValues(); }
 
  private:
   struct Widgets {

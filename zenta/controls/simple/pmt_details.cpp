@@ -65,13 +65,25 @@ float PmtDetails::GSTAmount() const { return entry::AmountAsSingle(w_.gst_amount
 void PmtDetails::SetGSTAmount(float value) { entry::SetAmount(w_.gst_amount, value); }
 
 bool PmtDetails::InvoiceDateEnabled() const { return w_.invoice_date.Enabled(); }
-void PmtDetails::SetInvoiceDateEnabled(bool enabled) { w_.invoice_date.SetEnabled(enabled); }
+void PmtDetails::SetInvoiceDateEnabled(bool enabled) {
+  w_.invoice_date.SetEnabled(enabled);
+  host_.ValueChanged("InvoiceDateEnabled");
+}
 bool PmtDetails::InvoiceNumberEnabled() const { return w_.invoice_no.Enabled(); }
-void PmtDetails::SetInvoiceNumberEnabled(bool enabled) { w_.invoice_no.SetEnabled(enabled); }
+void PmtDetails::SetInvoiceNumberEnabled(bool enabled) {
+  w_.invoice_no.SetEnabled(enabled);
+  host_.ValueChanged("InvoiceNumberEnabled");
+}
 bool PmtDetails::InvoiceAmountEnabled() const { return w_.invoice_amount.Enabled(); }
-void PmtDetails::SetInvoiceAmountEnabled(bool enabled) { w_.invoice_amount.SetEnabled(enabled); }
+void PmtDetails::SetInvoiceAmountEnabled(bool enabled) {
+  w_.invoice_amount.SetEnabled(enabled);
+  host_.ValueChanged("InvoiceAmountEnabled");
+}
 bool PmtDetails::GSTAmountEnabled() const { return w_.gst_amount.Enabled(); }
-void PmtDetails::SetGSTAmountEnabled(bool enabled) { w_.gst_amount.SetEnabled(enabled); }
+void PmtDetails::SetGSTAmountEnabled(bool enabled) {
+  w_.gst_amount.SetEnabled(enabled);
+  host_.ValueChanged("GSTAmountEnabled");
+}
 
 void PmtDetails::SetFocusInvoiceDate() { entry::SetFocusIfEnabled(w_.invoice_date); }
 void PmtDetails::SetFocusInvoiceNumber() { entry::SetFocusIfEnabled(w_.invoice_no); }

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <span>
 #include <memory>
 #include <string>
 
+#include "zenta/platform/field_value.h"
 #include "zenta/controls/simple/amount_gst_pair.h"
 #include "zenta/controls/simple/small_control.h"
 #include "zenta/core/currency.h"
@@ -27,6 +29,23 @@ class PmtDetails : public SmallControl {
 
   static constexpr int kMinWidth = 1815;
   static constexpr int kMinHeight = 2500;
+
+  // The public properties each child widget holds.
+  static std::span<const platform::FieldValue> FieldValues() {
+    static constexpr platform::FieldValue kValues[] = {
+        {"dtInvoiceDate", "InvoiceDate"},
+        {"dtInvoiceDate", "InvoiceDateEnabled"},
+        {"txtInvoiceNo", "InvoiceNumber"},
+        {"txtInvoiceNo", "InvoiceNumberEnabled"},
+        {"txtInvoiceAmount", "InvoiceAmount"},
+        {"txtInvoiceAmount", "InvoiceAmountCurrency"},
+        {"txtInvoiceAmount", "InvoiceAmountEnabled"},
+        {"txtGSTAmount", "GSTAmount"},
+        {"txtGSTAmount", "GSTAmountCurrency"},
+        {"txtGSTAmount", "GSTAmountEnabled"},
+    };
+    return kValues;
+  }
 
   PmtDetails(platform::ControlSurface& surface, platform::HostServices& host);
 
@@ -65,6 +84,7 @@ class PmtDetails : public SmallControl {
  protected:
   void ApplyTitleColor() override;
   void BusinessModeChanged() override { ShowBusinessMode(); }
+  std::span<const platform::FieldValue> Fields() const override { return FieldValues(); }
 
  private:
   struct Widgets {

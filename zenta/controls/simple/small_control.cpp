@@ -10,7 +10,11 @@ SmallControl::SmallControl(platform::ControlSurface& surface, platform::HostServ
     : surface_(surface), host_(host),
       properties_(surface, host, default_title_color,
                   {.apply_title_color = [this] { ApplyTitleColor(); },
-                   .propagate_enabled = [this] { PropagateEnabled(); },
+                   .propagate_enabled =
+                       [this] {
+                         PropagateEnabled();
+                         AnnounceFields();
+                       },
                    .business_mode_changed = [this] { BusinessModeChanged(); }}),
       min_width_(min_width_twips), min_height_(min_height_twips) {
   surface_.OnKeyDown([this](platform::KeyDown& key) {
@@ -26,6 +30,10 @@ void SmallControl::ReadProperties(const platform::PropertyBag& bag) {
 }
 
 void SmallControl::PropagateEnabled() { entry::PropagateEnabled(surface_); }
+
+void SmallControl::AnnounceFields() {
+  for (const platform::FieldValue& value : Fields()) host_.ValueChanged(value.property);
+}
 
 void SmallControl::EnforceMinimumSize() { entry::EnforceMinimumSize(surface_, min_width_, min_height_); }
 

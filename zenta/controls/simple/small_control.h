@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "zenta/core/variant.h"
 #include "zenta/entry/common_properties.h"
 #include "zenta/platform/control_surface.h"
+#include "zenta/platform/field_value.h"
 #include "zenta/platform/host_services.h"
 #include "zenta/platform/property_bag.h"
 
@@ -54,6 +56,11 @@ class SmallControl {
   virtual bool EnterMovesOnFrom(const std::string& /*active_child*/) const { return true; }
 
   void EnforceMinimumSize();
+  // The public properties the child widgets hold (the control's FieldValues()).
+  virtual std::span<const platform::FieldValue> Fields() const { return {}; }
+  // Tells the host that every value the child widgets hold may have changed: after fields were
+  // enabled or disabled together.
+  void AnnounceFields();
   // Raises the event to the host by number and returns it with the host's in/out values.
   platform::RaisedEvent Raise(int number, const char* name, std::vector<Variant> args = {});
   // A notification that raises an event by number to the host, then to the typed listener

@@ -43,9 +43,15 @@ void StdPayment::SetPaymentAmount(float value) { entry::SetAmount(w_.payment_amo
 Currency StdPayment::GSTAmount() const { return entry::AmountAsCurrency(w_.gst_amount); }
 void StdPayment::SetGSTAmount(Currency value) { entry::SetAmount(w_.gst_amount, value); }
 bool StdPayment::PaymentAmountEnabled() const { return w_.payment_amount.Enabled(); }
-void StdPayment::SetPaymentAmountEnabled(bool enabled) { w_.payment_amount.SetEnabled(enabled); }
+void StdPayment::SetPaymentAmountEnabled(bool enabled) {
+  w_.payment_amount.SetEnabled(enabled);
+  host_.ValueChanged("PaymentAmountEnabled");
+}
 bool StdPayment::GSTAmountEnabled() const { return w_.gst_amount.Enabled(); }
-void StdPayment::SetGSTAmountEnabled(bool enabled) { w_.gst_amount.SetEnabled(enabled); }
+void StdPayment::SetGSTAmountEnabled(bool enabled) {
+  w_.gst_amount.SetEnabled(enabled);
+  host_.ValueChanged("GSTAmountEnabled");
+}
 void StdPayment::SetFocusPaymentAmount() { entry::SetFocusIfEnabled(w_.payment_amount); }
 void StdPayment::SetFocusGSTAmount() { entry::SetFocusIfEnabled(w_.gst_amount); }
 

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <span>
 #include <memory>
 
+#include "zenta/platform/field_value.h"
 #include "zenta/controls/simple/amount_gst_pair.h"
 #include "zenta/controls/simple/small_control.h"
 #include "zenta/core/currency.h"
@@ -25,6 +27,18 @@ class StdPayment : public SmallControl {
 
   static constexpr int kMinWidth = 1815;
   static constexpr int kMinHeight = 1200;
+
+  // The public properties each child widget holds.
+  static std::span<const platform::FieldValue> FieldValues() {
+    static constexpr platform::FieldValue kValues[] = {
+        {"txtPaymentAmount", "PaymentAmount"},
+        {"txtPaymentAmount", "PaymentAmountCurrency"},
+        {"txtPaymentAmount", "PaymentAmountEnabled"},
+        {"txtGSTAmount", "GSTAmount"},
+        {"txtGSTAmount", "GSTAmountEnabled"},
+    };
+    return kValues;
+  }
 
   StdPayment(platform::ControlSurface& surface, platform::HostServices& host);
 
@@ -50,6 +64,7 @@ class StdPayment : public SmallControl {
  protected:
   void BusinessModeChanged() override { ShowBusinessMode(); }
   void Shown() override { ShowBusinessMode(); }
+  std::span<const platform::FieldValue> Fields() const override { return FieldValues(); }
 
  private:
   struct Widgets {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "zenta/platform/host_services.h"
@@ -28,6 +29,9 @@ class Host : public platform::HostServices {
   explicit Host(Form& form) : form_(form) {}
 
   void MarkPropertyChanged(const std::string& name) override { changed_.push_back(name); }
+  void ValueChanged(std::string_view property) override {
+    if (on_value_changed_) on_value_changed_(property);
+  }
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
@@ -53,6 +57,8 @@ class Host : public platform::HostServices {
   void ClearEvents() { events_.clear(); }
 
   const std::vector<std::string>& ChangedProperties() const { return changed_; }
+  // Called with each property whose value the control says may have changed, typed or set.
+  void OnValueChanged(std::function<void(std::string_view)> listener) { on_value_changed_ = std::move(listener); }
   // Every keystroke script the control injected, in order ("{TAB}").
   const std::vector<std::string>& InjectedKeys() const { return injected_; }
 
@@ -67,6 +73,7 @@ class Host : public platform::HostServices {
   std::function<void(platform::RaisedEvent&)> on_event_;
   std::vector<platform::RaisedEvent> events_;
   std::vector<std::string> changed_;
+  std::function<void(std::string_view)> on_value_changed_;
   std::vector<std::string> injected_;
   char32_t separator_ = U'.';
   int beeps_ = 0;

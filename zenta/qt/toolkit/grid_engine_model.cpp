@@ -9,12 +9,13 @@
 
 namespace zenta::qt {
 
-int GridEngineModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : engine_.DisplayRowCount(); }
+// The views' count, changed only through the signals that tell them.
+int GridEngineModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : shown_rows_; }
 
 int GridEngineModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : engine_.ColumnCount(); }
 
 QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid()) return {};
+  if (!index.isValid() || index.row() >= engine_.DisplayRowCount()) return {};
   const int row = engine_.BookmarkAt(index.row());
   const int column = index.column();
   switch (role) {
@@ -76,6 +77,20 @@ QVariant GridEngineModel::headerData(int section, Qt::Orientation orientation, i
   // The tooltip shows a caption cut short by a narrow column.
   if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return UiText(engine_.Column(section).caption);
   return {};
+}
+
+void GridEngineModel::RowsChanged() {
+  const int rows = engine_.DisplayRowCount();
+  if (rows > shown_rows_) {
+    beginInsertRows({}, shown_rows_, rows - 1);
+    shown_rows_ = rows;
+    endInsertRows();
+  } else if (rows < shown_rows_) {
+    beginRemoveRows({}, rows, shown_rows_ - 1);
+    shown_rows_ = rows;
+    endRemoveRows();
+  }
+  if (rows > 0 && columnCount() > 0) dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
 }
 
 void GridEngineModel::RowChanged(int display_row) {

@@ -90,7 +90,7 @@ int QtGridView::FirstRowTop() const { return Rect().top + ToTwips(horizontalHead
 int QtGridView::RowHeight() const { return ToTwips(verticalHeader()->defaultSectionSize()); }
 
 void QtGridView::RowsChanged() {
-  model_->Reset();
+  model_->RowsChanged();
   CurrentCellChanged();
 }
 
@@ -194,7 +194,9 @@ void QtGridView::CurrentCellChanged() {
   std::optional<int> row = engine_->CurrentRow();
   if (!row) return;
   QModelIndex index = model_->index(*row - engine_->FirstRow(), engine_->CurrentColumn());
-  if (index.isValid()) {
+  // Scrolling lays the rows out at once; a cursor that did not move (rows added under it, a
+  // host adding invoices in a loop) leaves that to the next paint.
+  if (index.isValid() && index != currentIndex()) {
     setCurrentIndex(index);
     scrollTo(index);
   }

@@ -67,6 +67,10 @@ void QtHost::MarkPropertyChanged(const std::string& name) {
   if (changed_sink_) changed_sink_(name);
 }
 
+void QtHost::ValueChanged(std::string_view property) {
+  if (value_sink_) value_sink_(property);
+}
+
 void QtHost::InjectKeys(const std::string& keys) {
   std::vector<platform::KeyDown> script;
   try {

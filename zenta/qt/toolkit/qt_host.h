@@ -19,6 +19,7 @@ class QtHost : public platform::HostServices {
   explicit QtHost(QWidget& owner) : owner_(&owner) {}
 
   void MarkPropertyChanged(const std::string& name) override;
+  void ValueChanged(std::string_view property) override;
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
@@ -35,11 +36,13 @@ class QtHost : public platform::HostServices {
   void SetOwner(QWidget& owner) { owner_ = &owner; }
   void SetEventSink(std::function<void(platform::RaisedEvent&)> sink) { event_sink_ = std::move(sink); }
   void SetPropertyChangedSink(std::function<void(const std::string&)> sink) { changed_sink_ = std::move(sink); }
+  void SetValueChangedSink(std::function<void(std::string_view)> sink) { value_sink_ = std::move(sink); }
 
  private:
   QPointer<QWidget> owner_;
   std::function<void(platform::RaisedEvent&)> event_sink_;
   std::function<void(const std::string&)> changed_sink_;
+  std::function<void(std::string_view)> value_sink_;
 };
 
 }  // namespace zenta::qt
