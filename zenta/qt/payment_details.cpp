@@ -43,7 +43,12 @@ PaymentDetails::PaymentDetails(QWidget* parent)
   Attach(std::make_unique<PaymentBinding>(*control_, Surface()));
 }
 
-PaymentDetails::~PaymentDetails() { DestroySurface(); }
+PaymentDetails::~PaymentDetails() {
+  // The control lets go of its grid when it is destroyed, so it goes before the surface.
+  DetachControl();
+  control_.reset();
+  DestroySurface();
+}
 
 void PaymentDetails::EmitTyped(platform::RaisedEvent& event) {
   auto cancel_flag = [&event](auto emit_signal) {

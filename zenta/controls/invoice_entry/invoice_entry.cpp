@@ -95,9 +95,13 @@ InvoiceEntry::InvoiceEntry(platform::ControlSurface& surface, platform::HostServ
 }
 
 InvoiceEntry::~InvoiceEntry() {
-  *alive_ = false;
-  grid_.Engine().SetSource(nullptr);
-  distribution_grid_.Engine().SetSource(nullptr);
+  // The grids and surface may outlive the control (a host's form keeps them): nothing they do
+  // later may reach it.
+  for (platform::Grid* grid : {&grid_, &distribution_grid_}) {
+    grid->Engine().Handlers() = {};
+    grid->Engine().SetSource(nullptr);
+  }
+  surface_.OnKeyDown({});
 }
 
 void InvoiceEntry::BuildColumns() {
@@ -148,9 +152,8 @@ void InvoiceEntry::ShowCurrentLines(bool lines_changed) {
 void InvoiceEntry::ScheduleTotals() {
   if (totals_pending_) return;
   totals_pending_ = true;
-  std::weak_ptr<bool> alive = alive_;
-  host_.Post([this, alive] {
-    if (alive.expired()) return;
+  host_.Post([this, control = lifetime_.Watched()] {
+    if (!control.Alive()) return;
     totals_pending_ = false;
     ShowTotals();
   });
@@ -223,7 +226,10 @@ void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
   const bool forward = key.key_code == platform::keys::kTab || key.key_code == platform::keys::kEnter;
   if (!forward || key.shift != platform::kNoShift) return;
   platform::GridEngine& engine = grid_.Engine();
-  if (!engine.CommitEdit()) {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  const bool committed = engine.CommitEdit();  // the host's vetoes run here
+  if (!control.Alive()) return;
+  if (!committed) {
     key.key_code = 0;
     return;
   }
@@ -271,7 +277,12 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
       args.cancel = true;
       return;
     }
-    number_refused_ = events_.CheckDuplicateInvoices(number);
+    const std::optional<bool> refused = events_.CheckDuplicateInvoices(number);
+    if (!refused) {
+      args.cancel = true;
+      return;
+    }
+    number_refused_ = *refused;
     args.cancel = number_refused_;
   } else if (args.column >= Col::kAmountColumn && args.column <= Col::kExpenseColumn) {
     const std::string typed = engine.CellText(args.column);
@@ -281,7 +292,12 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
   if (args.column == Col::kAmountColumn) {
     const Variant typed = engine.CellValue(Col::kAmountColumn);
     Currency amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
-    amount_refused_ = events_.ValidateInvoiceAmountLimit(amount);
+    const std::optional<bool> refused = events_.ValidateInvoiceAmountLimit(amount);
+    if (!refused) {
+      args.cancel = true;
+      return;
+    }
+    amount_refused_ = *refused;
     args.cancel = amount_refused_;
     if (amount_refused_) ClearRefusedAmount(args);
   }
@@ -321,12 +337,20 @@ void InvoiceEntry::OnPosted(int message) {
       break;
     }
     case kAfterRowEdit: AfterRowEdit(); break;
-    case kOpenDistribution: ShowDistribution(); break;
+    case kOpenDistribution: OpenPosted(); break;
     case kForeignRangeMessage:
       host_.ShowMessage({kForeignRangeText, "", platform::MessageButtons::Ok, platform::MessageIcon::Information});
       grid_.Engine().Refresh();
       break;
     default: break;
+  }
+}
+
+void InvoiceEntry::OpenPosted() {
+  try {
+    ShowDistribution();
+  } catch (const HostError&) {
+    // The window is open for another control: the key or click opens nothing.
   }
 }
 
@@ -370,6 +394,7 @@ void InvoiceEntry::Convert(int index, int changed_column) {
 }
 
 void InvoiceEntry::Clear() {
+  opener_.Abandon();
   grid_.Engine().CancelEdit();
   store_.Clear();
   Rebind();
@@ -437,15 +462,18 @@ void InvoiceEntry::ApplyEnabled() {
 
 void InvoiceEntry::ShowDistribution() {
   platform::GridEngine& engine = grid_.Engine();
-  if (!engine.CommitRow()) return;
+  FrmDistribution& dialog = opener_.Prepare();
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  const bool committed = engine.CommitRow();  // the host's vetoes run here
+  if (!control.Alive() || !committed) return;
   const auto current = engine.CurrentRow();
   if (!current || *current >= store_.Count()) return;
   const int index = *current;
   pending_row_ = index + 1;
   const bool first = store_.EnsureId(index);
   const InvoiceStore::Row& row = store_.At(index);
+  const std::int16_t id = row.id;
 
-  FrmDistribution& dialog = context_.Distribution();
   dialog.SetVisibleInvoice(true);
   const platform::TwipsRect size = dialog.Surface().Rect();
   const DialogPlacement place = PlaceOverControl(host_.Container(), size.width, size.height);
@@ -474,9 +502,9 @@ void InvoiceEntry::ShowDistribution() {
   dialog.SetPaymentFor(Variant(row.payment_for));
   if (existing.Count() == 0) ProposeWholeAmount(dialog, *table, properties_.default_gl_account, amount);
 
-  std::weak_ptr<bool> alive = alive_;
-  dialog.Show();
-  if (alive.expired() || !dialog.Chosen()) return;
+  if (opener_.Show() != DistributionOpener::Outcome::Accepted) return;
+  // Rows deleted while the window was open leave the lines with no invoice to go to.
+  if (index >= store_.Count() || store_.At(index).id != id) return;
   deleting_ = false;
   clsDistributions accepted;
   std::vector<std::optional<Currency>> typed_foreign;
@@ -491,7 +519,6 @@ void InvoiceEntry::ShowDistribution() {
     lines.push_back({line->ID, line->GLAccount, line->Amount,
                      at < typed_foreign.size() ? typed_foreign[at] : std::nullopt});
   }
-  const std::int16_t id = store_.At(index).id;
   store_.SetLines(id, std::move(lines));
   store_.SetPaymentFor(index, Text(dialog.PaymentFor()));
   engine.Refresh();
@@ -554,7 +581,9 @@ bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
       Incomplete = incomplete;
       return Fail(InvalidReason, reason, column);
     }
+    const platform::Lifetime::Watch control = lifetime_.Watched();
     grid_.Engine().CommitRow();
+    if (!control.Alive()) return false;
     if (number_refused_ || amount_refused_) return false;
     for (int i = 0; i < store_.Count(); ++i) {
       const InvoiceStore::Row& row = store_.At(i);
@@ -621,9 +650,10 @@ Currency InvoiceEntry::TotalExpense() const { return store_.TotalExpense(); }
 Currency InvoiceEntry::TotalForeignAmount() const { return store_.TotalAmount(); }
 
 void InvoiceEntry::DeleteCurrentRow() {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
   deleting_ = true;
-  grid_.Engine().DeleteCurrentRow();
-  deleting_ = false;
+  grid_.Engine().DeleteCurrentRow();  // raises Recalculate
+  if (control.Alive()) deleting_ = false;
 }
 
 void InvoiceEntry::SetInvoiceValues(std::int16_t /*TheRow*/, const Variant& value) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "zenta/controls/distribution/distribution_opener.h"
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/invoice_entry/invoice_events.h"
 #include "zenta/controls/invoice_entry/invoice_lines_source.h"
@@ -89,7 +90,8 @@ class InvoiceEntry {
   void SetRowColorOdd(OleColor color);
   OleColor BackColorTitle() const { return properties_.back_color_title; }
   void SetBackColorTitle(OleColor color) { properties_.back_color_title = color; }
-  // Opens the distribution window for the grid's current row.
+  // Opens the distribution window for the grid's current row. Raises 0x80040016 while the
+  // window is open for any control.
   void ShowDistribution();
   const std::string& DefaultGLAccount() const { return properties_.default_gl_account; }
   void SetDefaultGLAccount(std::string account) { properties_.default_gl_account = std::move(account); }
@@ -174,6 +176,7 @@ class InvoiceEntry {
   // Yes to a Yes/No question.
   bool Ask(const char* question, const char* title);
   void OnPosted(int message);
+  void OpenPosted();
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void ClearRefusedAmount(platform::BeforeColUpdateArgs& args);
   void OnKeyDown(platform::KeyDown& key);
@@ -201,7 +204,9 @@ class InvoiceEntry {
   bool number_refused_ = false;
   bool amount_refused_ = false;
   std::vector<std::string> parsed_lines_;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+  // Last, so an open window closes before anything else of the control goes.
+  DistributionOpener opener_{context_};
+  platform::Lifetime lifetime_;
 };
 
 }  // namespace zenta
