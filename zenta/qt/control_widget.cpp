@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QMetaProperty>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <exception>
 
@@ -37,9 +38,12 @@ ControlWidget::ControlWidget(QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(surface_);
   host_->SetEventSink([this](platform::RaisedEvent& event) {
+    // A slot may delete this widget (a host closing its form): nothing of it is read then.
+    const QPointer<ControlWidget> self(this);
     QVariantList args;
     for (const Variant& arg : event.args) args.append(ToQVariant(arg));
     emit EventRaised(event.number, ToQString(event.name), args);
+    if (!self) return;
     for (qsizetype i = 0; i < args.size() && i < static_cast<qsizetype>(event.args.size()); ++i) {
       event.args[static_cast<std::size_t>(i)] = FromQVariant(args[i]);
     }
@@ -119,8 +123,10 @@ void ControlWidget::ReportCurrentException() const noexcept {
 }
 
 void ControlWidget::FinishEdit() {
+  const QPointer<ControlWidget> self(this);
   for (QtNumberEdit* edit : surface_->findChildren<QtNumberEdit*>()) {
     if (edit->hasFocus()) Guard([edit] { edit->FinishEdit(); });
+    if (!self) return;
   }
 }
 

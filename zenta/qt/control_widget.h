@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPointer>
 #include <QSettings>
 #include <QVariantList>
 #include <QWidget>
@@ -94,14 +95,17 @@ class ControlWidget : public QWidget {
 
   // Runs a call into the control; a refusal becomes HostErrorRaised and false. Afterwards the
   // NOTIFY signals of the properties it changed are emitted.
+  // A host that deletes the widget from a slot the call reached gets nothing further.
   template <class Call>
   bool Guard(Call&& call) const noexcept {
+    const QPointer<const ControlWidget> self(this);
     try {
       call();
     } catch (...) {
-      ReportCurrentException();
+      if (self) ReportCurrentException();
       return false;
     }
+    if (!self) return false;
     NotifyChanges();
     return true;
   }

@@ -1,5 +1,6 @@
 #include "zenta/qt/payment_details.h"
 
+#include <QPointer>
 #include <QVariantMap>
 
 #include "zenta/controls/distribution/library_context.h"
@@ -80,7 +81,9 @@ void PaymentDetails::SetOtherCurrencyCode(const QVariant& code) {
 }
 
 bool PaymentDetails::IsDataValid(QString& InvalidReason) {
+  const QPointer<PaymentDetails> self(this);
   FinishEdit();
+  if (!self) return false;
   std::string reason = FromQString(InvalidReason);
   bool valid = false;
   Guard([&] { valid = control_->IsDataValid(reason); });

@@ -82,7 +82,9 @@ void QtHost::InjectKeys(const std::string& keys) {
 }
 
 void QtHost::RaiseEvent(platform::RaisedEvent& event) {
-  if (event_sink_) event_sink_(event);
+  // The sink's owner may be deleted by the handlers it runs, and this host with it.
+  const auto sink = event_sink_;
+  if (sink) sink(event);
 }
 
 platform::MessageResult QtHost::ShowMessage(const platform::MessageBox& box) {
