@@ -49,6 +49,9 @@ ControlWidget::ControlWidget(QWidget* parent)
     }
     EmitTyped(event);
   });
+  host_->SetErrorSink([this](const HostError& error) {
+    emit HostErrorRaised(static_cast<quint32>(error.Number()), ToQString(error.Source()), ToQString(error.Description()));
+  });
 }
 
 ControlWidget::~ControlWidget() = default;

@@ -160,6 +160,16 @@ void InvoiceEntry::ScheduleTotals() {
 }
 
 void InvoiceEntry::ShowTotals() {
+  try {
+    ShowTotalsOrRaise();
+  } catch (const HostError& error) {
+    // Totals past the currency range (invoices the host put): the footers keep what they
+    // showed, and the host hears of it, as no call of its own is there to raise it to.
+    host_.ReportError(error);
+  }
+}
+
+void InvoiceEntry::ShowTotalsOrRaise() {
   platform::GridEngine& engine = grid_.Engine();
   const bool any = store_.Count() > 0;
   auto footer = [&](int column, bool shown, Currency total) {
@@ -288,6 +298,12 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
     const std::string typed = engine.CellText(args.column);
     const std::string text = entry::TypedGridAmount(typed);
     if (text != typed) engine.SetCellValue(args.column, Variant(text));
+    if (BusinessMode() && !ForeignMode() && !NetExpenseFits()) {
+      host_.Beep();
+      host_.ReportError(HostError::Overflow("InvoiceEntry"));
+      args.cancel = true;
+      return;
+    }
   }
   if (args.column == Col::kAmountColumn) {
     const Variant typed = engine.CellValue(Col::kAmountColumn);
@@ -354,6 +370,20 @@ void InvoiceEntry::OpenPosted() {
   }
 }
 
+bool InvoiceEntry::NetExpenseFits() const {
+  const platform::GridEngine& engine = grid_.Engine();
+  auto amount = [&engine](int column) {
+    const Variant value = engine.CellValue(column);
+    return Text(value).empty() ? Currency() : value.ToCurrency();
+  };
+  try {
+    (void)(amount(Col::kAmountColumn) - amount(Col::kGSTColumn));
+  } catch (const HostError& error) {
+    return error.Number() != HostError::Overflow("").Number();
+  }
+  return true;
+}
+
 void InvoiceEntry::DeriveColumns(int index) {
   if (index < 0 || index >= store_.Count()) return;
   if (ForeignMode()) {
@@ -372,6 +402,15 @@ void InvoiceEntry::AfterRowEdit() {
 }
 
 void InvoiceEntry::Convert(int index, int changed_column) {
+  try {
+    ConvertOrRaise(index, changed_column);
+  } catch (const HostError&) {
+    // A conversion past the currency range leaves the row as it was, with the range message.
+    grid_.Engine().PostMessage(kForeignRangeMessage);
+  }
+}
+
+void InvoiceEntry::ConvertOrRaise(int index, int changed_column) {
   InvoiceStore::Row row = store_.At(index);
   const double rate = currency_rate_;
   row.gst = Currency::FromDouble(rate);
@@ -728,6 +767,15 @@ void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
   store_.RemoveIf([&name](const InvoiceStore::Row& row) { return Upper(row.email) == name; });
   Rebind();
   RepositionAfterBulk();
+}
+
+void InvoiceEntry::SetCurrencyRate(float rate) {
+  try {
+    (void)Currency::FromDouble(rate);
+  } catch (const HostError&) {
+    throw HostError::Overflow("CurrencyRate");
+  }
+  currency_rate_ = rate;
 }
 
 void InvoiceEntry::SetIPCurrency(const std::string& code) {

@@ -121,7 +121,9 @@ class InvoiceEntry {
   std::int16_t CurrentRow() const;
   void SetCurrentRow(std::int16_t row);
   void DeleteByEmailFilename(const std::string& strFilename);
-  void SetCurrencyRate(float rate) { currency_rate_ = rate; }
+  // A rate no amount can be converted at (NaN, infinite, past the currency range) raises
+  // Overflow and the rate stays as it was.
+  void SetCurrencyRate(float rate);
   void SetIPCurrency(const std::string& code);
   // The library's shared currency code, shown in the foreign amount's caption.
   void SetOtherCurrencyCode(const Variant& code);
@@ -163,6 +165,7 @@ class InvoiceEntry {
   // adding thousands of invoices in a row pays for one pass, not one a row.
   void ScheduleTotals();
   void ShowTotals();
+  void ShowTotalsOrRaise();
   void WireGrid();
   void ApplyColors();
   void ApplyEnabled();
@@ -173,12 +176,15 @@ class InvoiceEntry {
   Currency Distributable(const InvoiceStore::Row& row) const;
   Currency LinesTotal(const InvoiceStore::Row& row) const;
   void Convert(int row, int changed_column);
+  void ConvertOrRaise(int row, int changed_column);
   // Yes to a Yes/No question.
   bool Ask(const char* question, const char* title);
   void OnPosted(int message);
   void OpenPosted();
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void ClearRefusedAmount(platform::BeforeColUpdateArgs& args);
+  // Whether the row's amount less its GST/HST, as typed, is within the currency range.
+  bool NetExpenseFits() const;
   void OnKeyDown(platform::KeyDown& key);
   // Net expense (business) or the conversion (foreign) of store row `index`.
   void DeriveColumns(int index);

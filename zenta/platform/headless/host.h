@@ -30,6 +30,7 @@ class Host : public platform::HostServices {
   void MarkPropertyChanged(const std::string& name) override { changed_.push_back(name); }
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
+  void ReportError(const HostError& error) override { errors_.push_back(error); }
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
   // Queues on the Form: run after the user's action, or by Form::RunPosted().
   void Post(std::function<void()> action) override;
@@ -52,6 +53,9 @@ class Host : public platform::HostServices {
   std::vector<std::string> EventNames() const;
   void ClearEvents() { events_.clear(); }
 
+  // Every error reported with no caller to raise it to, in order.
+  const std::vector<HostError>& ReportedErrors() const { return errors_; }
+
   const std::vector<std::string>& ChangedProperties() const { return changed_; }
   // Every keystroke script the control injected, in order ("{TAB}").
   const std::vector<std::string>& InjectedKeys() const { return injected_; }
@@ -66,6 +70,7 @@ class Host : public platform::HostServices {
   std::vector<platform::MessageBox> messages_;
   std::function<void(platform::RaisedEvent&)> on_event_;
   std::vector<platform::RaisedEvent> events_;
+  std::vector<HostError> errors_;
   std::vector<std::string> changed_;
   std::vector<std::string> injected_;
   char32_t separator_ = U'.';
