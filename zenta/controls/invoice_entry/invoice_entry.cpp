@@ -717,8 +717,9 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
   Rebind();
   if (!bShowDistribution.IsEmpty() && bShowDistribution.ToBool()) {
     grid_.Engine().SetCurrentRow(index);
+    const platform::Lifetime::Watch control = lifetime_.Watched();
     ShowDistribution();
-    RepositionAfterBulk();
+    if (control.Alive()) RepositionAfterBulk();
   }
   return false;
 }
@@ -761,7 +762,9 @@ std::int16_t InvoiceEntry::CurrentRow() const {
 void InvoiceEntry::SetCurrentRow(std::int16_t row) { grid_.Engine().SetCurrentRow(row - 1); }
 
 void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
-  if (!DataEntryComplete()) DeleteCurrentRow();
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  if (!DataEntryComplete()) DeleteCurrentRow();  // raises Recalculate
+  if (!control.Alive()) return;
   const std::string name = Upper(Trimmed(strFilename));
   if (name.empty()) return;
   store_.RemoveIf([&name](const InvoiceStore::Row& row) { return Upper(row.email) == name; });
