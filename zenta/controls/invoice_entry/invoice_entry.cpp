@@ -580,8 +580,9 @@ Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const {
 
 bool InvoiceEntry::Fail(std::string& InvalidReason, const std::string& reason, int column) {
   InvalidReason = reason;
-  grid_.Engine().SetCurrentColumn(column);
-  grid_.SetFocus();
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  grid_.Engine().SetCurrentColumn(column);  // ends the cell edit: the host's vetoes run
+  if (control.Alive()) grid_.SetFocus();
   return false;
 }
 

@@ -265,7 +265,11 @@ bool PaymentDetails::IsDataValid(std::string& InvalidReason) {
       reason = kNoDistribution;
     }
     if (!valid) {
-      grid_.Engine().SetCurrentColumn(kViewDistColumn);
+      grid_.Engine().SetCurrentColumn(kViewDistColumn);  // ends the cell edit: the host's vetoes run
+      if (!control.Alive()) {
+        InvalidReason = reason;
+        return false;
+      }
       grid_.SetFocus();
     }
   } catch (const HostError&) {
@@ -338,7 +342,9 @@ bool PaymentDetails::CheckPaymentValues(std::string& reason) {
     return false;
   }
   if (BusinessMode() && HomeCurrency()) {
-    engine.SetCurrentColumn(kGSTColumn);
+    const platform::Lifetime::Watch control = lifetime_.Watched();
+    engine.SetCurrentColumn(kGSTColumn);  // ends the cell edit: the host's vetoes run
+    if (!control.Alive()) return false;
     if (CellEmpty(kGSTColumn)) {
       reason = kGSTRequired;
       return false;
