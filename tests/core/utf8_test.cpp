@@ -15,6 +15,15 @@ TEST(Utf8, CountsCodePointsNotBytes) {
   EXPECT_EQ(Left("ab", 5), "ab");
 }
 
+TEST(Utf8, DropLastRemovesOneWholeCodePoint) {
+  for (auto [before, after] : {std::pair<std::string, std::string>{"Qué", "Qu"}, {"a€", "a"}, {"é€", "é"},
+                               {"x\xF0\x9F\x92\xB5", "x"}, {"ab\xC3", "ab"}, {"", ""}}) {
+    std::string text = before;
+    DropLast(text);
+    EXPECT_EQ(text, after) << before;
+  }
+}
+
 TEST(Utf8, MalformedBytesBecomeReplacementCharactersOneEach) {
   std::u32string decoded = Decode("a\xC3\x28z\xFF");
   EXPECT_EQ(decoded, (std::u32string{U'a', 0xFFFD, U'(', U'z', 0xFFFD}));
@@ -33,6 +42,9 @@ TEST_P(Utf8Malformed, EveryBadByteCountsAsOneReplacement) {
   const std::u32string decoded = Decode(GetParam().bytes);
   EXPECT_EQ(decoded, std::u32string(GetParam().length, 0xFFFD));
   EXPECT_EQ(Length(GetParam().bytes), GetParam().length);
+  std::string text = GetParam().bytes;
+  DropLast(text);
+  EXPECT_EQ(Length(text), GetParam().length - 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sequences, Utf8Malformed,

@@ -33,7 +33,7 @@ class InvoiceEntryDriver : public Driver {
             },
             {kOverflow});
       case 2: return Put([&] { control_->SetBusinessMode(random() % 2 == 0); });
-      case 3: return Put([&] { control_->ShowDistribution(); });
+      case 3: return Put([&] { control_->ShowDistribution(); }, {WindowOpenRefusal()});
       case 4: return Put([&] { control_->DeleteCurrentRow(); });
       case 5: return Put([&] { control_->SetCurrentRow(row); });
       case 6:

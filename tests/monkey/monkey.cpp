@@ -5,6 +5,7 @@
 #include <map>
 #include <sstream>
 
+#include "zenta/controls/distribution/distribution_opener.h"
 #include "zenta/core/host_error.h"
 #include "zenta/platform/grid.h"
 #include "zenta/platform/headless/dialog.h"
@@ -135,6 +136,7 @@ std::vector<std::unique_ptr<Driver>> AllDrivers() {
 
 int DateRefusal() { return HostError::Object(Date::kOutOfRange, "", "").Number(); }
 int RowsRefusal() { return HostError::Object(20, "", "").Number(); }
+int WindowOpenRefusal() { return HostError::Object(DistributionOpener::kAlreadyOpen, "", "").Number(); }
 
 Date RandomDate(Random& random) {
   // Mostly ordinary days, sometimes none, sometimes outside the years a field takes.
@@ -171,36 +173,60 @@ std::string FieldShows(const platform::NumberEdit& field, Currency value) {
 
 std::string Play(Driver& driver, std::uint64_t seed, int events) {
   Random random(seed);
-  World world;
-  driver.Create(world);
+  std::unique_ptr<World> world;
   // The control holds on to its surface: it goes first.
   struct Destroyed {
     Driver& driver;
     ~Destroyed() { driver.Destroy(); }
   } destroyed{driver};
-  world.next_field = &world.form.AddHostField("txtHostNext");
-  world.form.Show();
   int event = 0;
   auto finding = [&](const std::string& what) {
     std::ostringstream out;
     out << driver.Name() << ", seed " << seed << ", event " << event << ": " << what;
     return out.str();
   };
+  // A careless host: now and then, from an event handler or while the distribution window is
+  // open, it closes its form (the control goes) or makes a call of its own in the middle.
+  bool closed = false;
+  std::string hostile_finding;
+  auto hostile = [&](unsigned one_in) {
+    if (closed || random() % one_in != 0) return;
+    if (random() % 3 == 0) {
+      closed = true;
+      driver.Destroy();
+      return;
+    }
+    if (std::string broken = driver.HostPut(random); !broken.empty() && hostile_finding.empty()) {
+      hostile_finding = "a host put from a handler: " + broken;
+    }
+  };
+  auto open_form = [&] {
+    driver.Destroy();
+    world.reset();
+    world = std::make_unique<World>();
+    driver.Create(*world);
+    world->next_field = &world->form.AddHostField("txtHostNext");
+    world->form.Show();
+    world->host.OnEvent([&](platform::RaisedEvent&) { hostile(64); });
+    closed = false;
+  };
+  open_form();
   // What a person does in the distribution window when it shows: a few events, then a button.
   std::function<void(headless::Dialog&)> in_dialog;
   std::string dialog_finding;
   in_dialog = [&](headless::Dialog& dialog) {
     std::vector<platform::Widget*> children = dialog.Children();
     for (int n = static_cast<int>(random() % 12); n > 0 && dialog.IsShown(); --n) {
-      KeepAnswersReady(world.host, random);
-      UserEvent(world, random, children);
+      KeepAnswersReady(world->host, random);
+      UserEvent(*world, random, children);
+      hostile(32);
     }
     if (!dialog.IsShown()) return;
     const char* button = random() % 3 == 0 ? "cmdGLCancel" : "cmdGLAccept";
-    KeepAnswersReady(world.host, random);
-    world.user.Click(dialog.Get<platform::Button>(button));
-    if (dialog.IsShown()) world.user.Click(dialog.Get<platform::Button>("cmdGLCancel"));
-    FrmDistribution& window = world.context.Distribution();
+    KeepAnswersReady(world->host, random);
+    world->user.Click(dialog.Get<platform::Button>(button));
+    if (dialog.IsShown()) world->user.Click(dialog.Get<platform::Button>("cmdGLCancel"));
+    FrmDistribution& window = world->context.Distribution();
     if (window.Chosen() && dialog_finding.empty()) {
       // An accepted split adds up to the amount exactly.
       const Variant total = window.CalculateDistAmounts();
@@ -211,21 +237,30 @@ std::string Play(Driver& driver, std::uint64_t seed, int events) {
     }
   };
   for (event = 1; event <= events; ++event) {
-    KeepAnswersReady(world.host, random);
-    while (world.form.PendingDialogScripts() < 3) world.form.ExpectDialog(in_dialog);
+    KeepAnswersReady(world->host, random);
+    while (world->form.PendingDialogScripts() < 3) world->form.ExpectDialog(in_dialog);
+    // What the host was told is not kept: a long run stays in the same memory.
+    world->host.ClearEvents();
     if (random() % 8 == 0) {
       if (std::string broken = driver.HostPut(random); !broken.empty()) return finding(broken);
     } else {
       try {
-        UserEvent(world, random, world.surface.Children());
+        UserEvent(*world, random, world->surface.Children());
       } catch (const headless::UnexpectedDialog& error) {
         return finding(std::string("a user event raised: ") + error.what());
       } catch (const std::exception& error) {
         return finding(std::string("a user event raised: ") + error.what());
       }
     }
+    if (!hostile_finding.empty()) return finding(hostile_finding);
     if (!dialog_finding.empty()) return finding(dialog_finding);
-    if (std::string broken = FocusFinding(world); !broken.empty()) return finding(broken);
+    if (closed) {
+      // The host opens the form again with a new control.
+      world->form.Settle();
+      open_form();
+      continue;
+    }
+    if (std::string broken = FocusFinding(*world); !broken.empty()) return finding(broken);
     try {
       if (std::string broken = driver.Check(); !broken.empty()) return finding(broken);
     } catch (const std::exception& error) {

@@ -74,5 +74,7 @@ inline constexpr int kOverflow = 6;
 inline constexpr int kTypeMismatch = 13;
 int DateRefusal();  // 0x80040015
 int RowsRefusal();  // 0x80040014
+// 0x80040016: the distribution window is already open (a host opening it from a handler).
+int WindowOpenRefusal();
 
 }  // namespace zenta::monkey

@@ -23,7 +23,7 @@ class PaymentDetailsDriver : public Driver {
       case 1: return Put([&] { control_->SetGST(RandomAmount(random)); }, {kOverflow});
       case 2: return Put([&] { control_->SetBusinessMode(random() % 2 == 0); });
       case 3: return Put([&] { control_->SetLockFields(random() % 2 == 0); });
-      case 4: return Put([&] { control_->ShowDistribution(); });
+      case 4: return Put([&] { control_->ShowDistribution(); }, {WindowOpenRefusal()});
       case 5: return Put([&] { control_->ClearPay(); });
       default:
         return Put([&] { control_->SetOtherCurrencyCode(Variant(std::string(random() % 2 ? "CAD" : "USD"))); });

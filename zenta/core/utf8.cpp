@@ -1,5 +1,7 @@
 #include "zenta/core/utf8.h"
 
+#include <algorithm>
+
 namespace zenta::utf8 {
 
 namespace {
@@ -86,6 +88,18 @@ std::string Left(std::string_view text, std::size_t count) {
   std::size_t pos = 0;
   for (std::size_t n = 0; n < count && pos < text.size(); ++n) Next(text, pos);
   return std::string(text.substr(0, pos));
+}
+
+void DropLast(std::string& text) {
+  // A code point takes at most four bytes; it starts where the rest decodes as one.
+  constexpr std::size_t kLongest = 4;
+  const std::string_view view(text);
+  for (std::size_t start = text.size() - std::min(kLongest, text.size()); start < text.size(); ++start) {
+    if (Length(view.substr(start)) == 1) {
+      text.erase(start);
+      return;
+    }
+  }
 }
 
 std::string ToUpperAscii(std::string_view text) {

@@ -14,6 +14,9 @@ std::string Encode(char32_t code_point);
 std::size_t Length(std::string_view text);
 // The first `count` code points.
 std::string Left(std::string_view text, std::size_t count);
+// Removes the last code point, looking at no more than its own bytes: Backspace costs the same
+// however long the text is.
+void DropLast(std::string& text);
 // ASCII-only case mapping; other code points pass unchanged.
 std::string ToUpperAscii(std::string_view text);
 // Blanks (U+0020) removed from both ends.

@@ -61,9 +61,11 @@ void CommonProperties::SetBackColor(OleColor color) {
 bool CommonProperties::Enabled() const { return surface_.Enabled(); }
 
 void CommonProperties::SetEnabled(bool enabled) {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  // Disabling moves the focus, and the host may close the form from the event that raises.
   surface_.SetEnabled(enabled);
-  Run(hooks_.propagate_enabled);
-  host_.ValueChanged(kEnabled);
+  if (control.Alive()) Run(hooks_.propagate_enabled);
+  if (control.Alive()) host_.ValueChanged(kEnabled);
 }
 
 void CommonProperties::SetBackColorTitle(OleColor color) {

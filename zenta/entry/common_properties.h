@@ -5,6 +5,7 @@
 #include "zenta/core/ole_color.h"
 #include "zenta/platform/control_surface.h"
 #include "zenta/platform/host_services.h"
+#include "zenta/platform/lifetime.h"
 #include "zenta/platform/property_bag.h"
 
 namespace zenta::entry {
@@ -46,6 +47,7 @@ class CommonProperties {
   Hooks hooks_;
   OleColor title_color_;
   bool business_mode_ = false;
+  platform::Lifetime lifetime_;
 };
 
 }  // namespace zenta::entry

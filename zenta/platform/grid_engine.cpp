@@ -13,16 +13,20 @@ namespace zenta::platform {
 
 namespace {
 
-// Raises a re-entrancy flag for one handler call, exceptions included.
+// Raises a re-entrancy flag for one handler call, exceptions included; a handler may destroy
+// the engine, and then the flag is gone with it.
 class Raised {
  public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
+  Raised(bool& flag, std::weak_ptr<bool> engine) : flag_(flag), engine_(std::move(engine)) { flag_ = true; }
+  ~Raised() {
+    if (!engine_.expired()) flag_ = false;
+  }
   Raised(const Raised&) = delete;
   Raised& operator=(const Raised&) = delete;
 
  private:
   bool& flag_;
+  std::weak_ptr<bool> engine_;
 };
 
 // "*" any run of characters, "?" exactly one; everything else literally.
@@ -408,7 +412,7 @@ bool GridEngine::CommitEdit() {
   args.old_value = original;
   requested_column_.reset();
   if (handlers_.before_col_update) {
-    Raised inside(in_col_update_);
+    Raised inside(in_col_update_, alive_);
     handlers_.before_col_update(args);
   }
   if (!Survived(token)) return false;
@@ -454,7 +458,7 @@ bool GridEngine::CommitRow() {
   if (in_row_update_) return false;
   CancelArgs args;
   if (handlers_.before_update) {
-    Raised inside(in_row_update_);
+    Raised inside(in_row_update_, alive_);
     handlers_.before_update(args);
   }
   if (!Survived(token) || args.cancel) return false;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "zenta/core/date.h"
+#include "zenta/core/host_error.h"
 #include "zenta/platform/container_metrics.h"
 #include "zenta/platform/message_box.h"
 #include "zenta/platform/raised_event.h"
@@ -25,6 +26,9 @@ class HostServices {
   // Queues keystrokes ("{TAB}") behind the notification being handled; returns at once.
   virtual void InjectKeys(const std::string& keys) = 0;
   virtual void RaiseEvent(RaisedEvent& event) = 0;
+  // A refusal with no caller to raise it to (a posted refresh, a keystroke): the values stayed
+  // as they were, and the host hears of it here.
+  virtual void ReportError(const HostError& error) = 0;
   virtual MessageResult ShowMessage(const MessageBox& box) = 0;
 
   // Runs `action` after the notification being handled has returned, in the order posted.

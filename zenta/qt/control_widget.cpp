@@ -51,6 +51,9 @@ ControlWidget::ControlWidget(QWidget* parent)
     }
     EmitTyped(event);
   });
+  host_->SetErrorSink([this](const HostError& error) {
+    emit HostErrorRaised(static_cast<quint32>(error.Number()), ToQString(error.Source()), ToQString(error.Description()));
+  });
 }
 
 ControlWidget::~ControlWidget() = default;
@@ -190,9 +193,11 @@ void ControlWidget::ReportCurrentException() const noexcept {
 void ControlWidget::FinishEdit() {
   // The toolkit's widgets have no meta-object of their own: findChildren<QtNumberEdit*> would
   // match every line edit, text boxes included.
+  const QPointer<ControlWidget> self(this);
   for (QLineEdit* line : surface_->findChildren<QLineEdit*>()) {
     auto* edit = dynamic_cast<QtNumberEdit*>(line);
     if (edit && edit->hasFocus()) Guard([edit] { edit->FinishEdit(); });
+    if (!self) return;
   }
 }
 

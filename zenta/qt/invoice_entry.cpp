@@ -38,11 +38,7 @@ InvoiceEntry::InvoiceEntry(QWidget* parent)
 }
 
 InvoiceEntry::~InvoiceEntry() {
-  // The control lets go of its grid when it is destroyed, so it goes before the surface; the
-  // grids forget its handlers first, so nothing they do while being deleted reaches it.
-  for (const char* name : {"grInvoices", "grDistribution"}) {
-    if (auto* grid = dynamic_cast<QtGridView*>(Surface().FindQWidget(name))) grid->Engine().Handlers() = {};
-  }
+  // The control lets go of its grids when it is destroyed, so it goes before the surface.
   DetachControl();
   control_.reset();
   DestroySurface();

@@ -1,5 +1,6 @@
 #include "zenta/qt/payment_details.h"
 
+#include <QPointer>
 #include <QVariantMap>
 
 #include "zenta/controls/distribution/library_context.h"
@@ -45,7 +46,12 @@ PaymentDetails::PaymentDetails(QWidget* parent)
   Attach(std::make_unique<PaymentBinding>(*control_, Surface()));
 }
 
-PaymentDetails::~PaymentDetails() { DestroySurface(); }
+PaymentDetails::~PaymentDetails() {
+  // The control lets go of its grid when it is destroyed, so it goes before the surface.
+  DetachControl();
+  control_.reset();
+  DestroySurface();
+}
 
 void PaymentDetails::EmitTyped(platform::RaisedEvent& event) {
   auto cancel_flag = [&event](auto emit_signal) {
@@ -77,7 +83,9 @@ void PaymentDetails::SetOtherCurrencyCode(const QVariant& code) {
 }
 
 bool PaymentDetails::IsDataValid(QString& InvalidReason) {
+  const QPointer<PaymentDetails> self(this);
   FinishEdit();
+  if (!self) return false;
   std::string reason = FromQString(InvalidReason);
   bool valid = false;
   Guard([&] { valid = control_->IsDataValid(reason); });

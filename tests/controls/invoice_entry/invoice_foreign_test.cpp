@@ -95,11 +95,11 @@ TEST_F(InvoiceForeignTest, ANonFiniteRateIsRefusedAndTheKeptRateStays) {
   EXPECT_EQ(control.InvoiceValues(1)->CompanyExpense, Money("135"));
 }
 
-TEST_F(InvoiceForeignTest, AnAmountTypedAtARateFarPastTheCurrencyRangeBeepsAndStaysUnconverted) {
-  UseRate(3e38f);
-  TypeAmount(InvoiceStore::kAmountColumn, "100");
+TEST_F(InvoiceForeignTest, AnAmountWhoseConversionPassesTheCurrencyRangeBeepsAndStaysUnconverted) {
+  UseRate(1e14f);
+  TypeAmount(InvoiceStore::kAmountColumn, "100000");
   EXPECT_EQ(host.Beeps(), 1);
-  EXPECT_EQ(Shown(InvoiceStore::kAmountColumn), "1.00");
+  EXPECT_EQ(Shown(InvoiceStore::kAmountColumn), "1000.00");
   EXPECT_EQ(Shown(InvoiceStore::kExpenseColumn), "");
 }
 

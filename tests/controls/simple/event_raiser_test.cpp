@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "zenta/controls/simple/small_control.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/host.h"
@@ -61,6 +63,22 @@ TEST(EventRaiser, InOutArgumentsCarryTheHostsAndThenTheListenersAnswer) {
   host.OnEvent(nullptr);
   control.SetEventListener(nullptr);
   EXPECT_FALSE(control.AskBeforeChange(3));
+}
+
+TEST(EventRaiser, AHostClosingTheFormFromTheEventKeepsTheListenerOut) {
+  headless::Form form;
+  headless::Surface& surface = form.AddSurface("control");
+  headless::Host host(form);
+  auto control = std::make_unique<VetoingControl>(surface, host);
+  Listener listener;
+  control->SetEventListener(&listener);
+  host.OnEvent([&control](platform::RaisedEvent& event) {
+    event.args.at(1) = Variant(true);
+    control.reset();
+  });
+  control->AskBeforeChange(3);
+  EXPECT_EQ(control, nullptr);
+  EXPECT_FALSE(listener.seen);  // the listener of a control that is gone hears nothing
 }
 
 }  // namespace

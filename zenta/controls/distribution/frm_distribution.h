@@ -58,6 +58,9 @@ class FrmDistribution {
 
   // Shows the window modally; returns once accept or cancel has hidden it.
   void Show();
+  // Ends an open showing as the Cancel button does, for a caller that can no longer take the
+  // lines.
+  void CloseAsCancelled() { OnCancel(); }
   void Move(int left, int top) { surface_->Move(left, top); }
   // For callers that style the grid or propose a first line.
   platform::Grid& Grid() { return grid_; }

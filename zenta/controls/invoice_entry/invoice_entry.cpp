@@ -127,9 +127,13 @@ void InvoiceEntry::AnnounceStoredProperties() {
 }
 
 InvoiceEntry::~InvoiceEntry() {
-  *alive_ = false;
-  grid_.Engine().SetSource(nullptr);
-  distribution_grid_.Engine().SetSource(nullptr);
+  // The grids and surface may outlive the control (a host's form keeps them): nothing they do
+  // later may reach it.
+  for (platform::Grid* grid : {&grid_, &distribution_grid_}) {
+    grid->Engine().Handlers() = {};
+    grid->Engine().SetSource(nullptr);
+  }
+  surface_.OnKeyDown({});
 }
 
 void InvoiceEntry::BuildColumns() {
@@ -180,15 +184,24 @@ void InvoiceEntry::ShowCurrentLines(bool lines_changed) {
 void InvoiceEntry::ScheduleTotals() {
   if (totals_pending_) return;
   totals_pending_ = true;
-  std::weak_ptr<bool> alive = alive_;
-  host_.Post([this, alive] {
-    if (alive.expired()) return;
+  host_.Post([this, control = lifetime_.Watched()] {
+    if (!control.Alive()) return;
     totals_pending_ = false;
     ShowTotals();
   });
 }
 
 void InvoiceEntry::ShowTotals() {
+  try {
+    ShowTotalsOrRaise();
+  } catch (const HostError& error) {
+    // Totals past the currency range (invoices the host put): the footers keep what they
+    // showed, and the host hears of it, as no call of its own is there to raise it to.
+    host_.ReportError(error);
+  }
+}
+
+void InvoiceEntry::ShowTotalsOrRaise() {
   platform::GridEngine& engine = grid_.Engine();
   const bool any = store_.Count() > 0;
   auto footer = [&](int column, bool shown, Currency total) {
@@ -270,7 +283,10 @@ void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
   const bool forward = key.key_code == platform::keys::kTab || key.key_code == platform::keys::kEnter;
   if (!forward || key.shift != platform::kNoShift) return;
   platform::GridEngine& engine = grid_.Engine();
-  if (!engine.CommitEdit()) {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  const bool committed = engine.CommitEdit();  // the host's vetoes run here
+  if (!control.Alive()) return;
+  if (!committed) {
     key.key_code = 0;
     return;
   }
@@ -323,17 +339,33 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
       args.cancel = true;
       return;
     }
-    number_refused_ = events_.CheckDuplicateInvoices(number);
+    const std::optional<bool> refused = events_.CheckDuplicateInvoices(number);
+    if (!refused) {
+      args.cancel = true;
+      return;
+    }
+    number_refused_ = *refused;
     args.cancel = number_refused_;
   } else if (args.column >= Col::kAmountColumn && args.column <= Col::kExpenseColumn) {
     const std::string typed = engine.CellText(args.column);
     const std::string text = entry::TypedGridAmount(typed);
     if (text != typed) engine.SetCellValue(args.column, Variant(text));
+    if (BusinessMode() && !ForeignMode() && !NetExpenseFits()) {
+      host_.Beep();
+      host_.ReportError(HostError::Overflow("InvoiceEntry"));
+      args.cancel = true;
+      return;
+    }
   }
   if (args.column == Col::kAmountColumn) {
     const Variant typed = engine.CellValue(Col::kAmountColumn);
     Currency amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
-    amount_refused_ = events_.ValidateInvoiceAmountLimit(amount);
+    const std::optional<bool> refused = events_.ValidateInvoiceAmountLimit(amount);
+    if (!refused) {
+      args.cancel = true;
+      return;
+    }
+    amount_refused_ = *refused;
     args.cancel = amount_refused_;
     if (amount_refused_) ClearRefusedAmount(args);
   }
@@ -373,13 +405,35 @@ void InvoiceEntry::OnPosted(int message) {
       break;
     }
     case kAfterRowEdit: AfterRowEdit(); break;
-    case kOpenDistribution: ShowDistribution(); break;
+    case kOpenDistribution: OpenPosted(); break;
     case kForeignRangeMessage:
       host_.ShowMessage({kForeignRangeText, "", platform::MessageButtons::Ok, platform::MessageIcon::Information});
       grid_.Engine().Refresh();
       break;
     default: break;
   }
+}
+
+void InvoiceEntry::OpenPosted() {
+  try {
+    ShowDistribution();
+  } catch (const HostError&) {
+    // The window is open for another control: the key or click opens nothing.
+  }
+}
+
+bool InvoiceEntry::NetExpenseFits() const {
+  const platform::GridEngine& engine = grid_.Engine();
+  auto amount = [&engine](int column) {
+    const Variant value = engine.CellValue(column);
+    return Text(value).empty() ? Currency() : value.ToCurrency();
+  };
+  try {
+    (void)(amount(Col::kAmountColumn) - amount(Col::kGSTColumn));
+  } catch (const HostError& error) {
+    return error.Number() != HostError::Overflow("").Number();
+  }
+  return true;
 }
 
 void InvoiceEntry::DeriveColumns(int index) {
@@ -400,6 +454,15 @@ void InvoiceEntry::AfterRowEdit() {
 }
 
 void InvoiceEntry::Convert(int index, int changed_column) {
+  try {
+    ConvertOrRaise(index, changed_column);
+  } catch (const HostError&) {
+    // A conversion past the currency range leaves the row as it was, with the range message.
+    grid_.Engine().PostMessage(kForeignRangeMessage);
+  }
+}
+
+void InvoiceEntry::ConvertOrRaise(int index, int changed_column) {
   InvoiceStore::Row row = store_.At(index);
   Conversion conversion = Conversion::kNone;
   try {
@@ -437,6 +500,7 @@ InvoiceEntry::Conversion InvoiceEntry::Converted(InvoiceStore::Row& row, int cha
 }
 
 void InvoiceEntry::Clear() {
+  opener_.Abandon();
   grid_.Engine().CancelEdit();
   store_.Clear();
   Rebind();
@@ -531,15 +595,18 @@ void InvoiceEntry::ApplyEnabled() {
 
 void InvoiceEntry::ShowDistribution() {
   platform::GridEngine& engine = grid_.Engine();
-  if (!engine.CommitRow()) return;
+  FrmDistribution& dialog = opener_.Prepare();
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  const bool committed = engine.CommitRow();  // the host's vetoes run here
+  if (!control.Alive() || !committed) return;
   const auto current = engine.CurrentRow();
   if (!current || *current >= store_.Count()) return;
   const int index = *current;
   pending_row_ = index + 1;
   const bool first = store_.EnsureId(index);
   const InvoiceStore::Row& row = store_.At(index);
+  const std::int16_t id = row.id;
 
-  FrmDistribution& dialog = context_.Distribution();
   dialog.SetVisibleInvoice(true);
   const platform::TwipsRect size = dialog.Surface().Rect();
   const DialogPlacement place = PlaceOverControl(host_.Container(), size.width, size.height);
@@ -568,9 +635,9 @@ void InvoiceEntry::ShowDistribution() {
   dialog.SetPaymentFor(Variant(row.payment_for));
   if (existing.Count() == 0) ProposeWholeAmount(dialog, *table, properties_.default_gl_account, amount);
 
-  std::weak_ptr<bool> alive = alive_;
-  dialog.Show();
-  if (alive.expired() || !dialog.Chosen()) return;
+  if (opener_.Show() != DistributionOpener::Outcome::Accepted) return;
+  // Rows deleted while the window was open leave the lines with no invoice to go to.
+  if (index >= store_.Count() || store_.At(index).id != id) return;
   deleting_ = false;
   clsDistributions accepted;
   std::vector<std::optional<Currency>> typed_foreign;
@@ -585,7 +652,6 @@ void InvoiceEntry::ShowDistribution() {
     lines.push_back({line->ID, line->GLAccount, line->Amount,
                      at < typed_foreign.size() ? typed_foreign[at] : std::nullopt});
   }
-  const std::int16_t id = store_.At(index).id;
   store_.SetLines(id, std::move(lines));
   store_.SetPaymentFor(index, Text(dialog.PaymentFor()));
   engine.Refresh();
@@ -602,8 +668,9 @@ Currency InvoiceEntry::LinesTotal(const InvoiceStore::Row& row) const { return s
 
 bool InvoiceEntry::Fail(std::string& InvalidReason, const std::string& reason, int column) {
   InvalidReason = reason;
-  grid_.Engine().SetCurrentColumn(column);
-  grid_.SetFocus();
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  grid_.Engine().SetCurrentColumn(column);  // ends the cell edit: the host's vetoes run
+  if (control.Alive()) grid_.SetFocus();
   return false;
 }
 
@@ -642,7 +709,9 @@ bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
       Incomplete = incomplete;
       return Fail(InvalidReason, reason, column);
     }
+    const platform::Lifetime::Watch control = lifetime_.Watched();
     grid_.Engine().CommitRow();
+    if (!control.Alive()) return false;
     if (number_refused_ || amount_refused_) return false;
     for (int i = 0; i < store_.Count(); ++i) {
       const InvoiceStore::Row& row = store_.At(i);
@@ -710,9 +779,10 @@ Currency InvoiceEntry::TotalExpense() const { return store_.TotalExpense(); }
 Currency InvoiceEntry::TotalForeignAmount() const { return store_.TotalAmount(); }
 
 void InvoiceEntry::DeleteCurrentRow() {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
   deleting_ = true;
-  grid_.Engine().DeleteCurrentRow();
-  deleting_ = false;
+  grid_.Engine().DeleteCurrentRow();  // raises Recalculate
+  if (control.Alive()) deleting_ = false;
 }
 
 void InvoiceEntry::SetInvoiceValues(std::int16_t /*TheRow*/, const Variant& value) {
@@ -749,8 +819,9 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
   Rebind();
   if (show) {
     grid_.Engine().SetCurrentRow(index);
+    const platform::Lifetime::Watch control = lifetime_.Watched();
     ShowDistribution();
-    RepositionAfterBulk();
+    if (control.Alive()) RepositionAfterBulk();
   }
   return false;
 }
@@ -792,7 +863,9 @@ std::int16_t InvoiceEntry::CurrentRow() const {
 void InvoiceEntry::SetCurrentRow(std::int16_t row) { grid_.Engine().SetCurrentRow(row - 1); }
 
 void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
-  if (!DataEntryComplete()) DeleteCurrentRow();
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  if (!DataEntryComplete()) DeleteCurrentRow();  // raises Recalculate
+  if (!control.Alive()) return;
   const std::string name = Upper(Trimmed(strFilename));
   if (name.empty()) return;
   store_.RemoveIf([&name](const InvoiceStore::Row& row) { return Upper(row.email) == name; });
@@ -800,7 +873,12 @@ void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
   RepositionAfterBulk();
 }
 
-void InvoiceEntry::SetCurrencyRate(float rate) { currency_rate_ = Rate::FromSingle(rate, "CurrencyRate"); }
+void InvoiceEntry::SetCurrencyRate(float rate) {
+  const Rate kept = Rate::FromSingle(rate, "CurrencyRate");
+  // A rate past the currency range converts no amount: refused like NaN and infinity.
+  (void)kept.ToCurrency("CurrencyRate");
+  currency_rate_ = kept;
+}
 
 void InvoiceEntry::SetIPCurrency(const std::string& code) {
   ip_currency_ = code;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "zenta/controls/distribution/distribution_opener.h"
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/invoice_entry/invoice_events.h"
 #include "zenta/controls/invoice_entry/invoice_lines_source.h"
@@ -90,7 +91,8 @@ class InvoiceEntry {
   void SetRowColorOdd(OleColor color);
   OleColor BackColorTitle() const { return properties_.back_color_title; }
   void SetBackColorTitle(OleColor color);
-  // Opens the distribution window for the grid's current row.
+  // Opens the distribution window for the grid's current row. Raises 0x80040016 while the
+  // window is open for any control.
   void ShowDistribution();
   const std::string& DefaultGLAccount() const { return properties_.default_gl_account; }
   void SetDefaultGLAccount(std::string account);
@@ -120,7 +122,8 @@ class InvoiceEntry {
   std::int16_t CurrentRow() const;
   void SetCurrentRow(std::int16_t row);
   void DeleteByEmailFilename(const std::string& strFilename);
-  // Kept as the shortest decimal that reads back as `rate`; NaN and infinities raise Overflow.
+  // Kept as the shortest decimal that reads back as `rate`. A rate no amount can be converted
+  // at (NaN, infinite, past the currency range) raises Overflow and the rate stays as it was.
   void SetCurrencyRate(float rate);
   void SetIPCurrency(const std::string& code);
   // The library's shared currency code, shown in the foreign amount's caption.
@@ -167,6 +170,7 @@ class InvoiceEntry {
   // adding thousands of invoices in a row pays for one pass, not one a row.
   void ScheduleTotals();
   void ShowTotals();
+  void ShowTotalsOrRaise();
   void WireGrid();
   void ApplyColors();
   void ApplyEnabled();
@@ -180,11 +184,15 @@ class InvoiceEntry {
   void Convert(int row, int changed_column);
   // The row's rate and the amount its changed column derives; raises Overflow past the range.
   Conversion Converted(InvoiceStore::Row& row, int changed_column) const;
+  void ConvertOrRaise(int row, int changed_column);
   // Yes to a Yes/No question.
   bool Ask(const char* question, const char* title);
   void OnPosted(int message);
+  void OpenPosted();
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void ClearRefusedAmount(platform::BeforeColUpdateArgs& args);
+  // Whether the row's amount less its GST/HST, as typed, is within the currency range.
+  bool NetExpenseFits() const;
   void OnKeyDown(platform::KeyDown& key);
   // Net expense (business) or the conversion (foreign) of store row `index`.
   void DeriveColumns(int index);
@@ -210,7 +218,9 @@ class InvoiceEntry {
   bool number_refused_ = false;
   bool amount_refused_ = false;
   std::vector<std::string> parsed_lines_;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+  // Last, so an open window closes before anything else of the control goes.
+  DistributionOpener opener_{context_};
+  platform::Lifetime lifetime_;
 };
 
 }  // namespace zenta

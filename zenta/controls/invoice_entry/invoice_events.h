@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "zenta/core/currency.h"
+#include "zenta/platform/event_channel.h"
 #include "zenta/platform/host_services.h"
 
 namespace zenta {
@@ -31,21 +33,23 @@ class InvoiceEvents {
     virtual void ValidateInvoiceAmountLimit(Currency& /*curInvoiceAmount*/, bool& /*bolCancel*/) {}
   };
 
-  explicit InvoiceEvents(platform::HostServices& host) : host_(host) {}
+  explicit InvoiceEvents(platform::HostServices& host) : channel_(host) {}
 
   void SetListener(Listener* listener) { listener_ = listener; }
 
-  void Recalculate();
-  void FirstDistributionEntered(std::int16_t& TheRow);
-  void DistributionEntered(std::int16_t& TheRow);
-  // Each returns bolCancel as the host and listener left it.
-  bool CheckDuplicateInvoices(std::string& strInvoiceNo);
-  bool ValidateInvoiceAmountLimit(Currency& curInvoiceAmount);
+  // Each returns whether the control survived its handlers.
+  bool Recalculate();
+  bool FirstDistributionEntered(std::int16_t& TheRow);
+  bool DistributionEntered(std::int16_t& TheRow);
+  // Each returns bolCancel as the host and listener left it; none when they destroyed the
+  // control.
+  std::optional<bool> CheckDuplicateInvoices(std::string& strInvoiceNo);
+  std::optional<bool> ValidateInvoiceAmountLimit(Currency& curInvoiceAmount);
 
  private:
-  void RaiseRow(Number number, const char* name, std::int16_t& TheRow, void (Listener::*typed)(std::int16_t&));
+  bool RaiseRow(Number number, const char* name, std::int16_t& TheRow, void (Listener::*typed)(std::int16_t&));
 
-  platform::HostServices& host_;
+  platform::EventChannel channel_;
   Listener* listener_ = nullptr;
 };
 

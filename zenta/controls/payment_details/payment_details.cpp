@@ -74,7 +74,13 @@ PaymentDetails::PaymentDetails(platform::ControlSurface& surface, platform::Host
   ApplyProperties();
 }
 
-PaymentDetails::~PaymentDetails() { *alive_ = false; }
+PaymentDetails::~PaymentDetails() {
+  // The grid and surface may outlive the control (a host's form keeps them): nothing they do
+  // later may reach it.
+  grid_.Engine().Handlers() = {};
+  surface_.OnKeyDown({});
+  surface_.OnResize({});
+}
 
 void PaymentDetails::BuildColumns() {
   platform::GridEngine& engine = grid_.Engine();
@@ -106,7 +112,7 @@ void PaymentDetails::WireGrid() {
     std::string reason;
     if (!CheckPaymentValues(reason)) args.cancel = true;
   };
-  on.after_update = [this] { events_.GetPayAmount(); };
+  on.after_update = [this] { events_.GetPayAmount(); };  // last: the host may destroy the control
   on.format_text = [](platform::FormatTextArgs& args) {
     if (!IsAmountColumn(args.column) || args.text.empty()) return;
     try {
@@ -162,17 +168,30 @@ void PaymentDetails::SetGST(Currency value) {
 
 Currency PaymentDetails::NetExpense() const { return HostAmount(kNetExpenseColumn); }
 
-void PaymentDetails::ShowDistribution() {
+void PaymentDetails::ShowDistribution() { CheckedDistribution(); }
+
+bool PaymentDetails::CheckedDistribution() {
+  FrmDistribution& dialog = opener_.Prepare();
   try {
-    ShowDistributionSteps();
+    return ShowDistributionSteps(dialog);
   } catch (const HostError&) {
     // A cell that does not read as an amount ends the hand-over where it failed.
   }
+  return true;
 }
 
-void PaymentDetails::ShowDistributionSteps() {
-  grid_.Engine().CommitRow();
-  FrmDistribution& dialog = context_.Distribution();
+void PaymentDetails::OpenFromButton() {
+  try {
+    CheckedDistribution();
+  } catch (const HostError&) {
+    // The window is open for another control: the click opens nothing.
+  }
+}
+
+bool PaymentDetails::ShowDistributionSteps(FrmDistribution& dialog) {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  grid_.Engine().CommitRow();  // the host's vetoes run here
+  if (!control.Alive()) return false;
   dialog.SetVisibleInvoice(false);
   StyleDialogLines(dialog.Grid().Engine());
   // Payments are never split in foreign-currency mode, whatever the shared code says.
@@ -190,16 +209,21 @@ void PaymentDetails::ShowDistributionSteps() {
   dialog.SetPaymentFor(Variant(CellText(kPaymentForColumn)));
   if (!had_lines) ProposeWholeAmount(dialog, *table, default_gl_account_, amount);
 
-  dialog.Show();
-  if (!dialog.Chosen()) return;
+  switch (opener_.Show()) {
+    case DistributionOpener::Outcome::ControlGone: return false;
+    case DistributionOpener::Outcome::Cancelled: return true;
+    case DistributionOpener::Outcome::Accepted: break;
+  }
   if (!pay_distribution_) pay_distribution_ = std::make_shared<clsDistributions>();
   if (const auto& accepted = dialog.XTempDistribution()) CopyLinesBack(*accepted, *pay_distribution_);
   SetCell(kPaymentForColumn, dialog.PaymentFor());
-  events_.GLBalanced();
+  if (!events_.GLBalanced()) return false;
   distribution_accepted_ = true;
+  return true;
 }
 
 void PaymentDetails::ClearPay() {
+  opener_.Abandon();
   row_ = std::make_shared<platform::Array2D>(0, 0, 0, kColumnCount - 1);
   grid_.Engine().Bind(row_);
   if (!grid_.Visible()) grid_.SetVisible(true);
@@ -234,7 +258,9 @@ bool PaymentDetails::IsDataValid(std::string& InvalidReason) {
       InvalidReason = reason;
       return false;
     }
-    grid_.Engine().CommitRow();
+    const platform::Lifetime::Watch control = lifetime_.Watched();
+    grid_.Engine().CommitRow();  // the host's vetoes run here
+    if (!control.Alive()) return false;
     const Currency amount = CellAmount(BusinessMode() ? kNetExpenseColumn : kPayAmtColumn);
     if (!pay_distribution_) pay_distribution_ = std::make_shared<clsDistributions>();
     const Currency sum = SumOfLines(*pay_distribution_);
@@ -245,7 +271,11 @@ bool PaymentDetails::IsDataValid(std::string& InvalidReason) {
       reason = kNoDistribution;
     }
     if (!valid) {
-      grid_.Engine().SetCurrentColumn(kViewDistColumn);
+      grid_.Engine().SetCurrentColumn(kViewDistColumn);  // ends the cell edit: the host's vetoes run
+      if (!control.Alive()) {
+        InvalidReason = reason;
+        return false;
+      }
       grid_.SetFocus();
     }
   } catch (const HostError&) {
@@ -336,7 +366,9 @@ bool PaymentDetails::CheckPaymentValues(std::string& reason) {
     return false;
   }
   if (BusinessMode() && HomeCurrency()) {
-    engine.SetCurrentColumn(kGSTColumn);
+    const platform::Lifetime::Watch control = lifetime_.Watched();
+    engine.SetCurrentColumn(kGSTColumn);  // ends the cell edit: the host's vetoes run
+    if (!control.Alive()) return false;
     if (CellEmpty(kGSTColumn)) {
       reason = kGSTRequired;
       return false;
@@ -346,13 +378,17 @@ bool PaymentDetails::CheckPaymentValues(std::string& reason) {
   return true;
 }
 
-// Reads typed cents, then lets the host veto the amount. True when the update is refused.
+// Reads typed cents, then lets the host veto the amount. True when the update is refused, and
+// always when a handler destroyed the control.
 bool PaymentDetails::CheckAmountCell(int column) {
   const std::string typed = CellText(column);
   const std::string text = entry::TypedGridAmount(typed);
   if (text != typed) SetCell(column, Variant(text));
 
-  if (column == kPayAmtColumn && events_.PayAmtBeforeUpdate()) {
+  if (column == kPayAmtColumn) {
+    const std::optional<bool> cancel = events_.PayAmtBeforeUpdate();
+    if (!cancel) return true;
+    if (!*cancel) return false;
     SetCell(kPayAmtColumn, Variant(std::string()));
     if (BusinessMode()) {
       SetCell(kGSTColumn, Variant(std::string()));
@@ -362,7 +398,10 @@ bool PaymentDetails::CheckAmountCell(int column) {
     events_.GetPayAmount();
     return true;
   }
-  if (column == kGSTColumn && events_.GSTAmtBeforeUpdate()) {
+  if (column == kGSTColumn) {
+    const std::optional<bool> cancel = events_.GSTAmtBeforeUpdate();
+    if (!cancel) return true;
+    if (!*cancel) return false;
     if (BusinessMode()) SetCell(kNetExpenseColumn, grid_.Engine().CellValue(kPayAmtColumn));
     return true;
   }
@@ -370,13 +409,14 @@ bool PaymentDetails::CheckAmountCell(int column) {
 }
 
 void PaymentDetails::ViewDistClicked() {
-  if (events_.GLDistributionBeforeEdit()) return;
+  const std::optional<bool> cancel = events_.GLDistributionBeforeEdit();
+  if (!cancel || *cancel) return;
   std::string reason;
   if (!CheckPaymentValues(reason)) return;
   try {
     if (CellAmount(kPayAmtColumn) == Currency()) {
       CalculateNetExpense();
-      events_.GetPayAmount();
+      if (!events_.GetPayAmount()) return;
     }
     if (grid_.Engine().Column(kGSTColumn).visible && CellEmpty(kGSTColumn)) {
       SetCell(kGSTColumn, AmountCell(Currency()));
@@ -384,7 +424,7 @@ void PaymentDetails::ViewDistClicked() {
     }
     const int split = BusinessMode() ? kNetExpenseColumn : kPayAmtColumn;
     if (CellAmount(split) != Currency()) {
-      PostToSelf(&PaymentDetails::ShowDistribution);
+      PostToSelf(&PaymentDetails::OpenFromButton);
     } else if (BusinessMode()) {
       grid_.Engine().SetCurrentColumn(kPayAmtColumn);
     }
@@ -395,17 +435,17 @@ void PaymentDetails::ViewDistClicked() {
 
 void PaymentDetails::OpenFromKeyboard() {
   try {
-    if (CellAmount(BusinessMode() ? kNetExpenseColumn : kPayAmtColumn) != Currency()) ShowDistribution();
+    if (CellAmount(BusinessMode() ? kNetExpenseColumn : kPayAmtColumn) != Currency() && !CheckedDistribution()) return;
   } catch (const HostError&) {
-    // Nothing to split.
+    // Nothing to split, or the window is open for another control.
   }
   events_.GLBalanced();
 }
 
 // The window is modal: it opens after the grid's notification has returned, never inside it.
 void PaymentDetails::PostToSelf(void (PaymentDetails::*action)()) {
-  host_.Post([this, alive = std::weak_ptr<bool>(alive_), action] {
-    if (const auto still = alive.lock(); still && *still) (this->*action)();
+  host_.Post([this, control = lifetime_.Watched(), action] {
+    if (control.Alive()) (this->*action)();
   });
 }
 
@@ -434,7 +474,10 @@ void PaymentDetails::OnKeyDown(platform::KeyDown& key) {
     return;
   }
   platform::GridEngine& engine = grid_.Engine();
-  if (!engine.CommitEdit()) {
+  const platform::Lifetime::Watch control = lifetime_.Watched();
+  const bool committed = engine.CommitEdit();  // the host's vetoes run here
+  if (!control.Alive()) return;
+  if (!committed) {
     key.key_code = 0;
     return;
   }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "zenta/platform/field_value.h"
+#include "zenta/controls/distribution/distribution_opener.h"
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/payment_details/payment_events.h"
 #include "zenta/controls/payment_details/payment_properties.h"
@@ -69,14 +70,15 @@ class PaymentDetails {
   void SetGST(Currency value);
   Currency NetExpense() const;
   // Opens the distribution window for this payment; on acceptance its lines replace
-  // PayDistribution.
+  // PayDistribution. Raises 0x80040016 while the window is open for any control.
   void ShowDistribution();
   const std::string& DefaultGLAccount() const { return default_gl_account_; }
   void SetDefaultGLAccount(std::string account) {
     default_gl_account_ = std::move(account);
     host_.ValueChanged("DefaultGLAccount");
   }
-  // One empty payment row and no distribution; mode, lock and default account stay.
+  // One empty payment row and no distribution; mode, lock and default account stay. A window
+  // open for this payment closes as cancelled.
   void ClearPay();
   bool Enabled() const;
   void SetEnabled(bool enabled);
@@ -117,9 +119,12 @@ class PaymentDetails {
   void CalculateNetExpense();
   bool CheckPaymentValues(std::string& reason);
   bool CheckAmountCell(int column);
+  // Each returns false when a handler destroyed the control.
+  bool CheckedDistribution();
+  bool ShowDistributionSteps(FrmDistribution& dialog);
   void ViewDistClicked();
+  void OpenFromButton();
   void OpenFromKeyboard();
-  void ShowDistributionSteps();
   void PostToSelf(void (PaymentDetails::*action)());
 
   void OnBeforeColEdit(platform::BeforeColEditArgs& args);
@@ -137,7 +142,9 @@ class PaymentDetails {
   std::shared_ptr<clsDistributions> pay_distribution_;
   std::shared_ptr<platform::Array2D> row_;
   bool distribution_accepted_ = false;
-  std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+  // Last, so an open window closes before anything else of the control goes.
+  DistributionOpener opener_{context_};
+  platform::Lifetime lifetime_;
 };
 
 }  // namespace zenta

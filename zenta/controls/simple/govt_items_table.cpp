@@ -108,7 +108,9 @@ void GovtItemsTable::KeyDown(platform::KeyDown& key) {
   if (!enter_or_tab || key.shift != platform::kNoShift) return;
   if (!engine_.CurrentRow() || *engine_.CurrentRow() != rows_) return;
   key.key_code = 0;
-  if (!engine_.CommitRow()) return;
+  const platform::Lifetime::Watch table = lifetime_.Watched();
+  const bool committed = engine_.CommitRow();  // raises GridRowUpdated: the host may close the form
+  if (!table.Alive() || !committed) return;
   if (notifications_.leave_last_row) notifications_.leave_last_row();
 }
 

@@ -7,6 +7,7 @@
 
 #include "zenta/platform/array_2d.h"
 #include "zenta/platform/grid.h"
+#include "zenta/platform/lifetime.h"
 
 namespace zenta {
 
@@ -46,6 +47,7 @@ class GovtItemsTable {
   Notifications notifications_;
   std::shared_ptr<platform::Array2D> array_;
   std::int16_t rows_ = 0;
+  platform::Lifetime lifetime_;
 };
 
 }  // namespace zenta

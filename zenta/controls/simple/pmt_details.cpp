@@ -44,8 +44,10 @@ void PmtDetails::Clear() {
 }
 
 void PmtDetails::ShowBusinessMode() {
-  pair_->ShowBusinessMode(BusinessMode());
   EnforceMinimumSize();
+  // Last: hiding the focused GST/HST field moves the focus, and the host may close the form
+  // from the event that raises.
+  pair_->ShowBusinessMode(BusinessMode());
 }
 
 void PmtDetails::ApplyTitleColor() {

@@ -7,7 +7,7 @@ namespace zenta {
 
 SmallControl::SmallControl(platform::ControlSurface& surface, platform::HostServices& host,
                            OleColor default_title_color, int min_width_twips, int min_height_twips)
-    : surface_(surface), host_(host),
+    : surface_(surface), host_(host), events_(host),
       properties_(surface, host, default_title_color,
                   {.apply_title_color = [this] { ApplyTitleColor(); },
                    .propagate_enabled =
@@ -36,11 +36,5 @@ void SmallControl::AnnounceFields() {
 }
 
 void SmallControl::EnforceMinimumSize() { entry::EnforceMinimumSize(surface_, min_width_, min_height_); }
-
-platform::RaisedEvent SmallControl::Raise(int number, const char* name, std::vector<Variant> args) {
-  platform::RaisedEvent event{number, name, std::move(args)};
-  host_.RaiseEvent(event);
-  return event;
-}
 
 }  // namespace zenta

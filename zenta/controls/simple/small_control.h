@@ -10,6 +10,7 @@
 #include "zenta/core/variant.h"
 #include "zenta/entry/common_properties.h"
 #include "zenta/platform/control_surface.h"
+#include "zenta/platform/event_channel.h"
 #include "zenta/platform/field_value.h"
 #include "zenta/platform/host_services.h"
 #include "zenta/platform/property_bag.h"
@@ -61,20 +62,21 @@ class SmallControl {
   // Tells the host that every value the child widgets hold may have changed: after fields were
   // enabled or disabled together.
   void AnnounceFields();
-  // Raises the event to the host by number and returns it with the host's in/out values.
-  platform::RaisedEvent Raise(int number, const char* name, std::vector<Variant> args = {});
   // A notification that raises an event by number to the host, then to the typed listener
   // (read when the event fires, so it may be set later). An in/out argument (a non-const
   // reference such as `bool& Cancel`) takes the host's answer before the listener sees it, and
-  // the listener's answer is the one the caller reads.
+  // the listener's answer is the one the caller reads. When a handler destroys the control the
+  // listener is not called and nothing of the control (this notification included) is read.
   template <class Listener, class... Args>
   std::function<void(Args...)> EventRaiser(int number, const char* name, Listener* const& listener,
                                            void (Listener::*typed)(Args...)) {
     return [this, number, name, &listener, typed](Args... args) {
-      platform::RaisedEvent raised = Raise(number, name, {Variant(args)...});
-      std::size_t i = 0;
-      (TakeAnswer<Args>(raised.args.at(i++), args), ...);
-      if (listener) (listener->*typed)(static_cast<Args>(args)...);
+      platform::RaisedEvent raised{number, name, {Variant(args)...}};
+      events_.Raise(raised, [&] {
+        std::size_t i = 0;
+        (TakeAnswer<Args>(raised.args.at(i++), args), ...);
+        if (listener) (listener->*typed)(static_cast<Args>(args)...);
+      });
     };
   }
 
@@ -98,6 +100,7 @@ class SmallControl {
   platform::HostServices& host_;
 
  private:
+  platform::EventChannel events_;
   entry::CommonProperties properties_;
   int min_width_;
   int min_height_;

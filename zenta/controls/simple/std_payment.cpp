@@ -33,8 +33,10 @@ void StdPayment::Clear() {
 }
 
 void StdPayment::ShowBusinessMode() {
-  pair_->ShowBusinessMode(BusinessMode());
   EnforceMinimumSize();
+  // Last: hiding the focused GST/HST field moves the focus, and the host may close the form
+  // from the event that raises.
+  pair_->ShowBusinessMode(BusinessMode());
 }
 
 float StdPayment::PaymentAmount() const { return entry::AmountAsSingle(w_.payment_amount); }

@@ -34,6 +34,7 @@ class Host : public platform::HostServices {
   }
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
+  void ReportError(const HostError& error) override { errors_.push_back(error); }
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
   // Queues on the Form: run after the user's action, or by Form::RunPosted().
   void Post(std::function<void()> action) override;
@@ -56,6 +57,9 @@ class Host : public platform::HostServices {
   std::vector<std::string> EventNames() const;
   void ClearEvents() { events_.clear(); }
 
+  // Every error reported with no caller to raise it to, in order.
+  const std::vector<HostError>& ReportedErrors() const { return errors_; }
+
   const std::vector<std::string>& ChangedProperties() const { return changed_; }
   // Called with each property whose value the control says may have changed, typed or set.
   void OnValueChanged(std::function<void(std::string_view)> listener) { on_value_changed_ = std::move(listener); }
@@ -72,6 +76,7 @@ class Host : public platform::HostServices {
   std::vector<platform::MessageBox> messages_;
   std::function<void(platform::RaisedEvent&)> on_event_;
   std::vector<platform::RaisedEvent> events_;
+  std::vector<HostError> errors_;
   std::vector<std::string> changed_;
   std::function<void(std::string_view)> on_value_changed_;
   std::vector<std::string> injected_;

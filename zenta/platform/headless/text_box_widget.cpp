@@ -12,9 +12,7 @@ void TextBoxWidget::HandleCharacter(char32_t character) {
   if (filter_) filter_(press);
   if (press.key == 0) return;
   if (press.key == platform::keys::kBackspace) {
-    std::u32string points = utf8::Decode(text_);
-    if (!points.empty()) points.pop_back();
-    text_ = utf8::Encode(points);
+    utf8::DropLast(text_);
     return;
   }
   if (press.key < 32) return;  // Enter and other control keys do not enter a single-line box

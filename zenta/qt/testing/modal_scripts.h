@@ -24,17 +24,19 @@ inline void Settle() {
 
 // Clicks a grid cell as a person would; when storing the row being left sends the focus on (a
 // balanced distribution window to its Accept button), clicks it again, as a person would.
+// The host may close the form on the click: then false.
 inline bool ClickCell(QWidget* grid, int row, int column) {
-  auto* view = qobject_cast<QTableView*>(grid);
+  const QPointer<QTableView> view = qobject_cast<QTableView*>(grid);
   if (!view) return false;
   const QRect cell = view->visualRect(view->model()->index(row, column));
   QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
   Settle();
+  if (!view) return false;
   if (!view->hasFocus()) {
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
     Settle();
   }
-  return view->hasFocus();
+  return view && view->hasFocus();
 }
 
 inline bool Click(QWidget* button) {

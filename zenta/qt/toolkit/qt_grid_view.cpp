@@ -210,9 +210,11 @@ void QtGridView::Post(std::function<void()> action) {
 }
 
 void QtGridView::keyPressEvent(QKeyEvent* event) {
+  // The host may close its form from an event the key raises, this grid with it.
+  const QPointer<QtGridView> self(this);
   platform::KeyDown key = ToKeyDown(*event);
   engine_->KeyDown(key);
-  if (key.key_code == 0) {
+  if (!self || key.key_code == 0) {
     event->accept();
     return;
   }
@@ -234,6 +236,7 @@ void QtGridView::keyPressEvent(QKeyEvent* event) {
   } else {
     for (char32_t character : utf8::Decode(event->text().toStdString())) {
       if (character >= 32) engine_->TypeCharacter(character);
+      if (!self) break;
     }
   }
   event->accept();

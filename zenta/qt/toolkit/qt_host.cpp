@@ -91,6 +91,11 @@ void QtHost::RaiseEvent(platform::RaisedEvent& event) {
   if (sink) sink(event);
 }
 
+void QtHost::ReportError(const HostError& error) {
+  const auto sink = error_sink_;
+  if (sink) sink(error);
+}
+
 platform::MessageResult QtHost::ShowMessage(const platform::MessageBox& box) {
   QMessageBox message(IconOf(box.icon), UiText(box.title), UiText(box.text), ButtonsOf(box.buttons),
                       owner_ ? owner_->window() : nullptr);
@@ -112,8 +117,18 @@ char32_t QtHost::DecimalSeparator() const {
 void QtHost::Post(std::function<void()> action) {
   if (!owner_) return;
   QPointer<QWidget> owner = owner_;
+  // Thrown into Qt's event loop an error would end the program: the host hears of it instead.
   QMetaObject::invokeMethod(
-      owner_.data(), [owner, action = std::move(action)] { if (owner) action(); }, Qt::QueuedConnection);
+      owner_.data(),
+      [this, owner, action = std::move(action)] {
+        if (!owner) return;
+        try {
+          action();
+        } catch (const HostError& error) {
+          if (owner) ReportError(error);
+        }
+      },
+      Qt::QueuedConnection);
 }
 
 void QtHost::Beep() { QApplication::beep(); }

@@ -22,6 +22,7 @@ class QtHost : public platform::HostServices {
   void ValueChanged(std::string_view property) override;
   void InjectKeys(const std::string& keys) override;
   void RaiseEvent(platform::RaisedEvent& event) override;
+  void ReportError(const HostError& error) override;
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
   Date Today() const override;
   char32_t DecimalSeparator() const override;
@@ -35,12 +36,14 @@ class QtHost : public platform::HostServices {
   // The window message boxes are modal over, and whose geometry Container() reports.
   void SetOwner(QWidget& owner) { owner_ = &owner; }
   void SetEventSink(std::function<void(platform::RaisedEvent&)> sink) { event_sink_ = std::move(sink); }
+  void SetErrorSink(std::function<void(const HostError&)> sink) { error_sink_ = std::move(sink); }
   void SetPropertyChangedSink(std::function<void(const std::string&)> sink) { changed_sink_ = std::move(sink); }
   void SetValueChangedSink(std::function<void(std::string_view)> sink) { value_sink_ = std::move(sink); }
 
  private:
   QPointer<QWidget> owner_;
   std::function<void(platform::RaisedEvent&)> event_sink_;
+  std::function<void(const HostError&)> error_sink_;
   std::function<void(const std::string&)> changed_sink_;
   std::function<void(std::string_view)> value_sink_;
 };
