@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <span>
 
 #include "zenta/core/host_error.h"
 #include "zenta/core/utf8.h"
@@ -14,6 +15,33 @@ constexpr const char* kSource = "clsDistributions";
 
 std::string clsDistributions::FoldKey(const std::string& key) { return utf8::ToUpperAscii(key); }
 
+clsDistributions::clsDistributions(const clsDistributions& other) : Object(other) {
+  other.Materialize();
+  elements_ = other.elements_;
+  by_key_ = other.by_key_;
+  key_of_ = other.key_of_;
+}
+
+clsDistributions& clsDistributions::operator=(const clsDistributions& other) {
+  if (this != &other) *this = clsDistributions(other);
+  return *this;
+}
+
+void clsDistributions::Materialize() const {
+  if (!pending_) return;
+  const std::size_t count = pending_->LineCount();
+  if (count > 0) {
+    // One block holds every line; each element keeps the block alive, as Add's do.
+    auto block = std::make_shared<clsDistribution[]>(count);
+    pending_->CopyLines(std::span<clsDistribution>(block.get(), count));
+    std::vector<Element> elements;
+    elements.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) elements.emplace_back(block, &block[i]);
+    elements_ = std::move(elements);
+  }
+  pending_.reset();
+}
+
 clsDistributions::Element clsDistributions::Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
                                                 const std::string& sKey) {
   Append(ID, GLAccount, Amount, sKey);
@@ -22,6 +50,7 @@ clsDistributions::Element clsDistributions::Add(const Variant& ID, const std::st
 
 void clsDistributions::Append(const Variant& ID, const std::string& GLAccount, Currency Amount,
                               const std::string& sKey) {
+  Materialize();
   std::string folded = FoldKey(sKey);
   if (!folded.empty() && by_key_.count(folded) != 0) throw HostError::KeyAlreadyAssociated(kSource);
   // Blocks double, so a collection built line by line allocates O(log n) times.
@@ -38,6 +67,7 @@ void clsDistributions::Append(const Variant& ID, const std::string& GLAccount, C
 }
 
 void clsDistributions::Reserve(std::size_t count) {
+  Materialize();
   if (spare_.size - spare_.used >= count) return;
   elements_.reserve(elements_.size() + count);
   spare_.block = std::make_shared<clsDistribution[]>(count);
@@ -65,10 +95,12 @@ std::size_t clsDistributions::IndexOf(const Variant& vntIndexKey) const {
 }
 
 clsDistributions::Element clsDistributions::Item(const Variant& vntIndexKey) const {
+  Materialize();
   return elements_[IndexOf(vntIndexKey)];
 }
 
 void clsDistributions::Remove(const Variant& vntIndexKey) {
+  Materialize();
   std::size_t index = IndexOf(vntIndexKey);
   const auto keyed = key_of_.find(elements_[index].get());
   if (keyed != key_of_.end()) {
@@ -81,6 +113,7 @@ void clsDistributions::Remove(const Variant& vntIndexKey) {
 void clsDistributions::Clear() {
   // The count goes through a 16-bit counter: past 32,767 it overflows before anything is removed.
   if (Count() > std::numeric_limits<std::int16_t>::max()) throw HostError::Overflow(kSource);
+  pending_.reset();
   elements_.clear();
   by_key_.clear();
   key_of_.clear();

@@ -9,6 +9,7 @@
 
 #include "zenta/core/variant.h"
 #include "zenta/records/cls_distribution.h"
+#include "zenta/records/distribution_source.h"
 
 namespace zenta {
 
@@ -20,9 +21,22 @@ namespace zenta {
 // raises SubscriptOutOfRange (9) and a key already in use KeyAlreadyAssociated (457); the
 // collection is then unchanged. Clear counts in 16 bits on purpose: more than 32,767 elements
 // raise Overflow and nothing is removed.
+//
+// A collection made over a DistributionSource copies its lines in when one is first reached
+// (an element, iteration or a change), so a record whose lines are never read costs nothing per
+// line. Like the controls, a collection belongs to one thread.
 class clsDistributions : public Object {
  public:
   using Element = std::shared_ptr<clsDistribution>;
+
+  clsDistributions() = default;
+  explicit clsDistributions(std::shared_ptr<const DistributionSource> lines) : pending_(std::move(lines)) {}
+  // A copy shares the original's elements, as copying the held lines always did.
+  clsDistributions(const clsDistributions& other);
+  clsDistributions& operator=(const clsDistributions& other);
+  clsDistributions(clsDistributions&&) noexcept = default;
+  clsDistributions& operator=(clsDistributions&&) noexcept = default;
+  ~clsDistributions() override = default;
 
   Element Add(const Variant& ID, const std::string& GLAccount, Currency Amount,
               const std::string& sKey = std::string());
@@ -32,19 +46,31 @@ class clsDistributions : public Object {
   void Reserve(std::size_t count);
   // A position (any numeric variant, from 1) or a key (text).
   Element Item(const Variant& vntIndexKey) const;
-  std::int32_t Count() const { return static_cast<std::int32_t>(elements_.size()); }
+  std::int32_t Count() const {
+    return static_cast<std::int32_t>(pending_ ? pending_->LineCount() : elements_.size());
+  }
   void Remove(const Variant& vntIndexKey);
   void Clear();
 
   // Position order, for range-based for.
-  std::vector<Element>::const_iterator begin() const { return elements_.begin(); }
-  std::vector<Element>::const_iterator end() const { return elements_.end(); }
+  std::vector<Element>::const_iterator begin() const {
+    Materialize();
+    return elements_.begin();
+  }
+  std::vector<Element>::const_iterator end() const {
+    Materialize();
+    return elements_.end();
+  }
 
  private:
   std::size_t IndexOf(const Variant& vntIndexKey) const;
   static std::string FoldKey(const std::string& key);
+  // Copies the source's lines in as elements, once; reading a collection may do it.
+  void Materialize() const;
 
-  std::vector<Element> elements_;
+  // Lines not copied in yet; while set, elements_ is empty.
+  mutable std::shared_ptr<const DistributionSource> pending_;
+  mutable std::vector<Element> elements_;
   // Elements are carved from shared blocks: one allocation serves many lines, and a block
   // lives while any of its elements is held. A copy of the collection starts without spare
   // room, so two collections never hand out the same slot.

@@ -765,11 +765,8 @@ std::shared_ptr<clsInvoice> InvoiceEntry::InvoiceValues(std::int16_t TheRow) con
   invoice->CompanyExpense = row.expense.value_or(Currency());
   invoice->PaymentFor = row.payment_for;
   invoice->EmailFilename = row.email;
-  invoice->Distributions = std::make_shared<clsDistributions>();
-  if (const auto* lines = store_.Lines(row.id)) {
-    invoice->Distributions->Reserve(lines->size());
-    for (const InvoiceLine& line : *lines) invoice->Distributions->Append(line.ID, line.GLAccount, line.Amount);
-  }
+  // The lines are shared with the store, copied in only when the host reaches one.
+  invoice->Distributions = std::make_shared<clsDistributions>(store_.LineBlock(row.id));
   return invoice;
 }
 

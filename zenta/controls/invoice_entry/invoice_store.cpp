@@ -114,10 +114,14 @@ bool InvoiceStore::EnsureId(int row) {
 }
 
 const std::vector<InvoiceLine>* InvoiceStore::Lines(std::int16_t id) const {
-  if (id == 0) return nullptr;
   if (id <= 0 || static_cast<std::size_t>(id) >= lines_.size()) return nullptr;
   const InvoiceLines& entry = lines_[static_cast<std::size_t>(id)];
-  return entry.lines.empty() ? nullptr : &entry.lines;
+  return entry.block ? &entry.block->Lines() : nullptr;
+}
+
+std::shared_ptr<const InvoiceLineBlock> InvoiceStore::LineBlock(std::int16_t id) const {
+  if (id <= 0 || static_cast<std::size_t>(id) >= lines_.size()) return nullptr;
+  return lines_[static_cast<std::size_t>(id)].block;
 }
 
 Currency InvoiceStore::LinesTotal(std::int16_t id) const {
@@ -133,11 +137,13 @@ void InvoiceStore::SetLines(std::int16_t id, std::vector<InvoiceLine> lines) {
     lines_.resize(at + 1);
   }
   InvoiceLines& entry = lines_[at];
-  line_count_ -= entry.lines.size();
-  line_count_ += lines.size();
-  entry.total = 0;
-  for (const InvoiceLine& line : lines) entry.total += line.Amount.Units();
-  entry.lines = std::move(lines);
+  Sum total = 0;
+  for (const InvoiceLine& line : lines) total += line.Amount.Units();
+  auto block = lines.empty() ? nullptr : std::make_shared<const InvoiceLineBlock>(std::move(lines));
+  line_count_ -= entry.block ? entry.block->LineCount() : 0;
+  line_count_ += block ? block->LineCount() : 0;
+  entry.total = total;
+  entry.block = std::move(block);
 }
 
 Variant InvoiceStore::Cell(int row, int column) const {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <unordered_set>
@@ -11,18 +12,10 @@
 #include "zenta/core/date.h"
 #include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
+#include "zenta/controls/invoice_entry/invoice_line_block.h"
 #include "zenta/platform/grid_source.h"
 
 namespace zenta {
-
-// One G/L line of an invoice's distribution, as the distribution window hands it back.
-struct InvoiceLine {
-  Variant ID;
-  std::string GLAccount;
-  Currency Amount;  // Canadian dollars for a foreign-currency invoice
-  // A foreign-currency invoice's line in the invoice's currency, as typed or converted.
-  std::optional<Currency> Foreign;
-};
 
 // The invoice list and its distribution lines, sized for the 16-bit row numbers of the public
 // interface: at most kMaxRows rows. Every operation a host repeats over the list is constant or
@@ -83,6 +76,8 @@ class InvoiceStore : public platform::GridSource {
   // it was new. Identifiers of live rows stay unique and non-zero.
   bool EnsureId(int row);
   const std::vector<InvoiceLine>* Lines(std::int16_t id) const;
+  // The same lines as a shared block (null without lines), for a record that outlives a change.
+  std::shared_ptr<const InvoiceLineBlock> LineBlock(std::int16_t id) const;
   void SetLines(std::int16_t id, std::vector<InvoiceLine> lines);
   // The sum of the lines' amounts (0 without lines), exact.
   Currency LinesTotal(std::int16_t id) const;
@@ -125,7 +120,7 @@ class InvoiceStore : public platform::GridSource {
   std::vector<Row> rows_;
   // Lines by row identifier (1 to kMaxRows), each invoice's with their exact sum.
   struct InvoiceLines {
-    std::vector<InvoiceLine> lines;
+    std::shared_ptr<const InvoiceLineBlock> block;  // null without lines
     Sum total = 0;
   };
   std::vector<InvoiceLines> lines_;
