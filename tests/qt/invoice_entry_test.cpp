@@ -14,6 +14,7 @@
 #include <cmath>
 
 #include "zenta/qt/invoice_entry.h"
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "tests/qt/host_window.h"
 #include "tests/qt/notify_watch.h"
 #include "zenta/qt/testing/modal_scripts.h"
@@ -181,6 +182,43 @@ class InvoiceEntryTest : public QObject {
     }));
     QVERIFY(SignalsMatchChanges(invoices_, "delete current", [&] { invoices_->DeleteCurrentRow(); }));
     QVERIFY(SignalsMatchChanges(invoices_, "clear", [&] { invoices_->Clear(); }));
+  }
+
+  // The map a host reads: its keys and value types, lines included, and texts that are not
+  // ASCII both ways.
+  void invoiceValuesKeepTheirShapeAndTexts() {
+    invoices_->SetBusinessMode(true);
+    invoices_->AddInvoice(QDate(2026, 2, 1), "INV-ü", Money("10"), QVariant::fromValue(Money("1.30")));
+    InvoiceStore& store = invoices_->Control().Store();
+    store.EnsureId(0);
+    store.SetLines(store.At(0).id, {{Variant(), "5100", Money("5")}, {Variant(7), "5200-é", Money("3.70")}});
+    invoices_->SetEmailFilename(1, QString::fromUtf8("reçu.pdf"));
+
+    const QVariantMap invoice = invoices_->InvoiceValues(1);
+    QCOMPARE(invoice.keys(), QStringList({"CompanyExpense", "Distributions", "EmailFilename", "GSTAmount", "InvoiceAmount",
+                                          "InvoiceDate", "InvoiceNo", "PaymentFor"}));
+    QCOMPARE(invoice.value("InvoiceDate").metaType(), QMetaType::fromType<QDate>());
+    QCOMPARE(invoice.value("InvoiceNo").toString(), QString::fromUtf8("INV-ü"));
+    QCOMPARE(invoice.value("GSTAmount").value<Currency>(), Money("1.30"));
+    QCOMPARE(invoice.value("CompanyExpense").value<Currency>(), Money("8.70"));
+    QCOMPARE(invoice.value("EmailFilename").toString(), QString::fromUtf8("reçu.pdf"));
+    QCOMPARE(invoice.value("PaymentFor").metaType(), QMetaType::fromType<QString>());
+    const QVariantList lines = invoice.value("Distributions").toList();
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines[1].toMap().keys(), QStringList({"Amount", "GLAccount"}));
+    QCOMPARE(LinesOf(1), QStringList({"5100 5", QString::fromUtf8("5200-é 3.7")}));
+
+    // A map the host changes is its own.
+    QVariantMap changed = invoice;
+    changed["InvoiceNo"] = "other";
+    QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString::fromUtf8("INV-ü"));
+
+    QSignalSpy errors(invoices_, &InvoiceEntry::HostErrorRaised);
+    invoices_->SetEmailFilename(2, "lost.pdf");
+    QCOMPARE(errors.count(), 1);
+    QCOMPARE(errors[0][1].toString(), QString("InvoiceValues"));
+    QCOMPARE(errors[0][2].toString(), QString("The row 2 does not exist"));
+    QCOMPARE(invoices_->InvoiceValues(1).value("EmailFilename").toString(), QString::fromUtf8("reçu.pdf"));
   }
 
   void typedRowsAndMovesSignalOnce() {

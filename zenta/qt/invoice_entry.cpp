@@ -4,6 +4,8 @@
 #include <QTableView>
 #include <QVariantMap>
 #include <algorithm>
+#include <exception>
+#include <memory>
 
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/toolkit/qt_grid_view.h"
@@ -21,6 +23,19 @@ constexpr int kInvoiceGridWidth = 6120;
 constexpr int kGridGap = 60;
 // Room for a grid's frame and vertical scroll bar beside its columns.
 constexpr int kGridChrome = 420;
+
+QVariantList LinesOf(const InvoiceLineBlock* block) {
+  if (!block) return {};
+  QVariantList lines;
+  lines.reserve(static_cast<qsizetype>(block->LineCount()));
+  for (const InvoiceLine& line : block->Lines()) {
+    QVariantMap entry;
+    entry.insert(entry.cend(), QStringLiteral("Amount"), QVariant::fromValue(line.Amount));
+    entry.insert(entry.cend(), QStringLiteral("GLAccount"), ToQString(line.GLAccount));
+    lines.append(QVariant(std::move(entry)));
+  }
+  return lines;
+}
 
 }  // namespace
 
@@ -154,23 +169,16 @@ QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
   QVariantMap map;
   Guard([&] {
     const std::shared_ptr<clsInvoice> invoice = control_->InvoiceValues(TheRow);
-    map.insert(QStringLiteral("InvoiceDate"), ToQDate(invoice->InvoiceDate));
-    map.insert(QStringLiteral("InvoiceNo"), ToQString(invoice->InvoiceNo));
-    map.insert(QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount));
-    map.insert(QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount));
-    map.insert(QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense));
-    map.insert(QStringLiteral("PaymentFor"), ToQString(invoice->PaymentFor));
-    map.insert(QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename));
-    QVariantList lines;
-    if (invoice->Distributions) {
-      for (const auto& line : *invoice->Distributions) {
-        QVariantMap entry;
-        entry.insert(QStringLiteral("GLAccount"), ToQString(line->GLAccount));
-        entry.insert(QStringLiteral("Amount"), QVariant::fromValue(line->Amount));
-        lines.append(entry);
-      }
-    }
-    map.insert(QStringLiteral("Distributions"), lines);
+    // Keys in their sorted order, each inserted at the end: no key comparisons on the way.
+    const auto end = [&map] { return map.cend(); };
+    map.insert(end(), QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense));
+    map.insert(end(), QStringLiteral("Distributions"), LinesOf(control_->Store().LineBlock(invoice->ID).get()));
+    map.insert(end(), QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename));
+    map.insert(end(), QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount));
+    map.insert(end(), QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount));
+    map.insert(end(), QStringLiteral("InvoiceDate"), ToQDate(invoice->InvoiceDate));
+    map.insert(end(), QStringLiteral("InvoiceNo"), ToQString(invoice->InvoiceNo));
+    map.insert(end(), QStringLiteral("PaymentFor"), ToQString(invoice->PaymentFor));
   });
   return map;
 }
@@ -192,7 +200,13 @@ bool InvoiceEntry::AddInvoice(const QDate& InvoiceDate, const QString& InvoiceNo
 }
 
 void InvoiceEntry::SetEmailFilename(short TheRow, const QString& TheEmailAddress) {
-  Guard([&] { control_->SetEmailFilename(TheRow, FromQString(TheEmailAddress)); });
+  // Storing the name raises no event and changes no notifying property, so the guard (watching
+  // for a host that deletes the widget, then signalling changes) is needed only for a refusal.
+  try {
+    control_->SetEmailFilename(TheRow, FromQString(TheEmailAddress));
+  } catch (...) {
+    Guard([error = std::current_exception()] { std::rethrow_exception(error); });
+  }
 }
 
 short InvoiceEntry::InvoiceCount_DetailLines() const {

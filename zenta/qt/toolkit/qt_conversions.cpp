@@ -22,7 +22,18 @@ Variant FromWideInteger(qint64 value) {
 
 QString ToQString(const std::string& text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-std::string FromQString(const QString& text) { return text.toStdString(); }
+std::string FromQString(const QString& text) {
+  // ASCII, nearly every text a host passes, is copied straight across; anything else goes
+  // through Qt's encoder (with its intermediate buffer).
+  std::string ascii(static_cast<std::size_t>(text.size()), '\0');
+  const QChar* in = text.constData();
+  for (std::size_t i = 0; i < ascii.size(); ++i) {
+    const char16_t unit = in[i].unicode();
+    if (unit >= 0x80) return text.toStdString();
+    ascii[i] = static_cast<char>(unit);
+  }
+  return ascii;
+}
 
 QString ToQString(Currency value) { return QString::fromStdString(value.ToString()); }
 
