@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "tests/error_number.h"
 
 #include "zenta/core/host_error.h"
@@ -132,6 +136,85 @@ TEST(clsDistributions, ReservedRoomAndBeyondKeepEveryLine) {
     EXPECT_EQ(lines.Item(6)->GLAccount, "6");
   }
   for (int i = 0; i < 40; ++i) EXPECT_EQ(held[static_cast<std::size_t>(i)]->GLAccount, std::to_string(i));
+}
+
+// Lines kept elsewhere, counting how often they are copied out.
+class CountedSource final : public DistributionSource {
+ public:
+  explicit CountedSource(std::vector<std::string> accounts) : accounts_(std::move(accounts)) {}
+  std::size_t LineCount() const override { return accounts_.size(); }
+  void CopyLines(std::span<clsDistribution> into) const override {
+    ++copies;
+    for (std::size_t i = 0; i < accounts_.size(); ++i) {
+      into[i].ID = Variant(static_cast<std::int32_t>(i));
+      into[i].GLAccount = accounts_[i];
+      into[i].Amount = Currency::FromInteger(static_cast<std::int64_t>(i) + 1);
+    }
+  }
+  mutable int copies = 0;
+
+ private:
+  std::vector<std::string> accounts_;
+};
+
+TEST(clsDistributions, OverASourceCopiesTheLinesOnceWhenFirstReached) {
+  const auto source = std::make_shared<CountedSource>(std::vector<std::string>{"5100", "5200", "5300"});
+  clsDistributions lines(source);
+  EXPECT_EQ(lines.Count(), 3);
+  EXPECT_EQ(source->copies, 0);
+  const auto second = lines.Item(2);
+  EXPECT_EQ(second->GLAccount, "5200");
+  EXPECT_EQ(second->Amount, Currency::FromInteger(2));
+  EXPECT_EQ(lines.Item(2).get(), second.get());  // the same element every time
+  std::string accounts;
+  for (const auto& line : lines) accounts += line->GLAccount + " ";
+  EXPECT_EQ(accounts, "5100 5200 5300 ");
+  EXPECT_EQ(source->copies, 1);
+  EXPECT_EQ(ErrorNumberOf([&] { lines.Item("5100"); }), 9);  // copied lines have no key
+}
+
+TEST(clsDistributions, OverASourceChangesLikeAnyCollection) {
+  const auto source = std::make_shared<CountedSource>(std::vector<std::string>{"5100", "5200"});
+  clsDistributions added(source);
+  added.Add(Variant(), "5300", Currency(), "k");
+  EXPECT_EQ(added.Count(), 3);
+  EXPECT_EQ(added.Item("K")->GLAccount, "5300");
+  EXPECT_EQ(added.Item(1)->GLAccount, "5100");
+
+  clsDistributions removed(source);
+  removed.Remove(1);
+  EXPECT_EQ(removed.Count(), 1);
+  EXPECT_EQ(removed.Item(1)->GLAccount, "5200");
+
+  clsDistributions cleared(source);
+  cleared.Clear();
+  EXPECT_EQ(cleared.Count(), 0);
+  for (const auto& line : cleared) ADD_FAILURE() << line->GLAccount;
+  EXPECT_EQ(ErrorNumberOf([&] { cleared.Item(1); }), 9);
+
+  // Each collection changed its own copy; the held element outlives them all.
+  clsDistributions::Element held;
+  {
+    clsDistributions other(source);
+    held = other.Item(2);
+    held->GLAccount = "changed";
+    EXPECT_EQ(other.Item(2)->GLAccount, "changed");
+  }
+  EXPECT_EQ(held->GLAccount, "changed");
+  EXPECT_EQ(clsDistributions(source).Item(2)->GLAccount, "5200");
+}
+
+TEST(clsDistributions, ACopyOverASourceSharesItsElementsAsAnyCopyDoes) {
+  const auto source = std::make_shared<CountedSource>(std::vector<std::string>{"5100"});
+  clsDistributions original(source);
+  clsDistributions copy = original;
+  copy.Item(1)->GLAccount = "changed";
+  EXPECT_EQ(original.Item(1)->GLAccount, "changed");
+  clsDistributions assigned;
+  assigned = clsDistributions(source);
+  EXPECT_EQ(assigned.Item(1)->GLAccount, "5100");
+  clsDistributions empty(nullptr);
+  EXPECT_EQ(empty.Count(), 0);
 }
 
 TEST(clsInvoice, StartsWithNoDistributions) {

@@ -5,6 +5,7 @@
 #include <QVariantMap>
 #include <algorithm>
 #include <exception>
+#include <map>
 #include <memory>
 
 #include "zenta/qt/application_context.h"
@@ -24,15 +25,29 @@ constexpr int kGridGap = 60;
 // Room for a grid's frame and vertical scroll bar beside its columns.
 constexpr int kGridChrome = 420;
 
+// A map filled in key order: each entry is moved in at the end, with neither key comparisons
+// nor copies of its value.
+class SortedMapBuilder {
+ public:
+  SortedMapBuilder& Add(const QString& key, QVariant value) {
+    entries_.emplace_hint(entries_.end(), key, std::move(value));
+    return *this;
+  }
+  QVariantMap Take() { return QVariantMap(std::move(entries_)); }
+
+ private:
+  std::map<QString, QVariant> entries_;
+};
+
 QVariantList LinesOf(const InvoiceLineBlock* block) {
   if (!block) return {};
   QVariantList lines;
   lines.reserve(static_cast<qsizetype>(block->LineCount()));
   for (const InvoiceLine& line : block->Lines()) {
-    QVariantMap entry;
-    entry.insert(entry.cend(), QStringLiteral("Amount"), QVariant::fromValue(line.Amount));
-    entry.insert(entry.cend(), QStringLiteral("GLAccount"), ToQString(line.GLAccount));
-    lines.append(QVariant(std::move(entry)));
+    lines.append(SortedMapBuilder()
+                     .Add(QStringLiteral("Amount"), QVariant::fromValue(line.Amount))
+                     .Add(QStringLiteral("GLAccount"), ToQString(line.GLAccount))
+                     .Take());
   }
   return lines;
 }
@@ -169,16 +184,16 @@ QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
   QVariantMap map;
   Guard([&] {
     const std::shared_ptr<clsInvoice> invoice = control_->InvoiceValues(TheRow);
-    // Keys in their sorted order, each inserted at the end: no key comparisons on the way.
-    const auto end = [&map] { return map.cend(); };
-    map.insert(end(), QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense));
-    map.insert(end(), QStringLiteral("Distributions"), LinesOf(control_->Store().LineBlock(invoice->ID).get()));
-    map.insert(end(), QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename));
-    map.insert(end(), QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount));
-    map.insert(end(), QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount));
-    map.insert(end(), QStringLiteral("InvoiceDate"), ToQDate(invoice->InvoiceDate));
-    map.insert(end(), QStringLiteral("InvoiceNo"), ToQString(invoice->InvoiceNo));
-    map.insert(end(), QStringLiteral("PaymentFor"), ToQString(invoice->PaymentFor));
+    map = SortedMapBuilder()
+              .Add(QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense))
+              .Add(QStringLiteral("Distributions"), LinesOf(control_->Store().LineBlock(invoice->ID).get()))
+              .Add(QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename))
+              .Add(QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount))
+              .Add(QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount))
+              .Add(QStringLiteral("InvoiceDate"), ToQDate(invoice->InvoiceDate))
+              .Add(QStringLiteral("InvoiceNo"), ToQString(invoice->InvoiceNo))
+              .Add(QStringLiteral("PaymentFor"), ToQString(invoice->PaymentFor))
+              .Take();
   });
   return map;
 }
