@@ -29,6 +29,11 @@ using Col = InvoiceStore::Column;
 constexpr platform::TwipsRect kInvoiceGridRect{0, 0, 6120, 2415};
 constexpr platform::TwipsRect kDistributionGridRect{6180, 0, 2880, 2415};
 constexpr std::size_t kMaxNumberLength = 255;
+// A character takes at least one byte, so a short text needs no counting: the validity check
+// runs over every row.
+bool NumberTooLong(std::string_view number) {
+  return number.size() > kMaxNumberLength && utf8::Length(number) > kMaxNumberLength;
+}
 constexpr const char* kConversionSource = "InvoiceEntry";
 // "#######0.00": eight digits before the point, two after.
 constexpr entry::AmountDigitLimits kAmountDigits{8, 2};
@@ -332,7 +337,7 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
       args.cancel = true;
       return;
     }
-    if (utf8::Length(number) > kMaxNumberLength) {
+    if (NumberTooLong(number)) {
       host_.ShowMessage({kNumberTooLong, "Invoice Number/Description Validation", platform::MessageButtons::Ok,
                          platform::MessageIcon::Information});
       number_refused_ = true;
@@ -716,7 +721,7 @@ bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
     for (int i = 0; i < store_.Count(); ++i) {
       const InvoiceStore::Row& row = store_.At(i);
       if (InvoiceStore::IsBlank(row)) continue;
-      if (utf8::Length(row.number) > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
+      if (NumberTooLong(row.number)) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
       const Currency lines = LinesTotal(row);
       const Currency due = Distributable(row);
       if (lines.IsZero() && !due.IsZero()) return Fail(InvalidReason, kNoDistribution, Col::kViewDistColumn);
@@ -727,7 +732,7 @@ bool InvoiceEntry::IsDataValid(std::string& InvalidReason, bool& Incomplete) {
       const InvoiceStore::Row& row = store_.At(*current);
       if (!InvoiceStore::IsBlank(row)) {
         if (Trimmed(row.number).empty()) return Fail(InvalidReason, kNumberRequired, Col::kNumberColumn);
-        if (utf8::Length(row.number) > kMaxNumberLength) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
+        if (NumberTooLong(row.number)) return Fail(InvalidReason, kNumberTooLong, Col::kNumberColumn);
         if (row.amount && LinesTotal(row).IsZero() && !Distributable(row).IsZero()) {
           return Fail(InvalidReason, kNoDistribution, Col::kViewDistColumn);
         }
