@@ -25,8 +25,8 @@ constexpr int kGridGap = 60;
 // Room for a grid's frame and vertical scroll bar beside its columns.
 constexpr int kGridChrome = 420;
 
-// A map filled in key order: each entry is moved in at the end, with neither key comparisons
-// nor copies of its value.
+// A map filled in key order: each entry goes in at the end after one key comparison, its value
+// moved rather than copied. A key out of order still lands in its place, only slower.
 class SortedMapBuilder {
  public:
   SortedMapBuilder& Add(const QString& key, QVariant value) {
@@ -184,6 +184,7 @@ QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
   QVariantMap map;
   Guard([&] {
     const std::shared_ptr<clsInvoice> invoice = control_->InvoiceValues(TheRow);
+    // The record's lines are the store's block; reading it directly spares making their elements.
     map = SortedMapBuilder()
               .Add(QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense))
               .Add(QStringLiteral("Distributions"), LinesOf(control_->Store().LineBlock(invoice->ID).get()))
