@@ -1,6 +1,5 @@
 #pragma once
 
-#include <any>
 #include <optional>
 #include <span>
 #include <string>
@@ -38,12 +37,8 @@ class InvoiceLineBlock final : public DistributionSource {
     }
   }
 
-  // A toolkit's own form of these lines, made when first needed and gone with them.
-  std::any& ToolkitCopy() const { return toolkit_copy_; }
-
  private:
   std::vector<InvoiceLine> lines_;
-  mutable std::any toolkit_copy_;
 };
 
 }  // namespace zenta
