@@ -95,6 +95,22 @@ void BM_QtInvoiceValuesOfEveryRow(benchmark::State& state) {
 }
 BENCHMARK(BM_QtInvoiceValuesOfEveryRow)->Apply(Sizes)->Unit(benchmark::kMillisecond);
 
+// The same loop by a host that also reads every line: the lines become maps when first read.
+void BM_QtInvoiceValuesReadingEveryLine(benchmark::State& state) {
+  const int n = static_cast<int>(state.range(0));
+  InvoiceScreen screen(n);
+  WithLines(*screen.widget);
+  for (auto _ : state) {
+    qsizetype lines = 0;
+    for (int row = 1; row <= n; ++row) {
+      lines += screen.widget->InvoiceValues(static_cast<short>(row)).value(QStringLiteral("Distributions")).toList().size();
+    }
+    benchmark::DoNotOptimize(lines);
+  }
+  state.SetComplexityN(n);
+}
+BENCHMARK(BM_QtInvoiceValuesReadingEveryLine)->Apply(Sizes)->Unit(benchmark::kMillisecond);
+
 // The floor of the loop above: the same map (keys, value types, a map per line) built with
 // plain inserts from invoices kept as plain structs, so what the map's shape costs by itself.
 struct PlainLine {

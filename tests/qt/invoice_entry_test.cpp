@@ -203,8 +203,11 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(invoice.value("CompanyExpense").value<Currency>(), Money("8.70"));
     QCOMPARE(invoice.value("EmailFilename").toString(), QString::fromUtf8("reçu.pdf"));
     QCOMPARE(invoice.value("PaymentFor").metaType(), QMetaType::fromType<QString>());
+    QVERIFY(invoice.value("Distributions").canConvert<QVariantList>());
     const QVariantList lines = invoice.value("Distributions").toList();
     QCOMPARE(lines.size(), 2);
+    QCOMPARE(invoice.value("Distributions").value<QVariantList>(), lines);
+    QCOMPARE(invoices_->InvoiceValues(1), invoice);
     QCOMPARE(lines[1].toMap().keys(), QStringList({"Amount", "GLAccount"}));
     QCOMPARE(LinesOf(1), QStringList({"5100 5", QString::fromUtf8("5200-é 3.7")}));
 

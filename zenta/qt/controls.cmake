@@ -4,6 +4,7 @@ add_library(zenta_qt STATIC
   control_widget.cpp
   govt_details.cpp
   invoice_entry.cpp
+  invoice_line_list.cpp
   payment_details.cpp
   pmt_details.cpp
   translator.cpp

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "zenta/qt/application_context.h"
+#include "zenta/qt/invoice_line_list.h"
 #include "zenta/qt/toolkit/qt_grid_view.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
@@ -39,24 +40,12 @@ class SortedMapBuilder {
   std::map<QString, QVariant> entries_;
 };
 
-QVariantList LinesOf(const InvoiceLineBlock* block) {
-  if (!block) return {};
-  QVariantList lines;
-  lines.reserve(static_cast<qsizetype>(block->LineCount()));
-  for (const InvoiceLine& line : block->Lines()) {
-    lines.append(SortedMapBuilder()
-                     .Add(QStringLiteral("Amount"), QVariant::fromValue(line.Amount))
-                     .Add(QStringLiteral("GLAccount"), ToQString(line.GLAccount))
-                     .Take());
-  }
-  return lines;
-}
-
 }  // namespace
 
 InvoiceEntry::InvoiceEntry(QWidget* parent)
     : ControlWidget(parent),
       control_(std::make_unique<zenta::InvoiceEntry>(Surface(), Host(), ApplicationContext())) {
+  InvoiceLineList::Register();
   Attach(std::make_unique<BindingTo<zenta::InvoiceEntry>>(*control_));
   Surface().OnResize([this] { FitGrid(); });
   // Columns shown, hidden or re-captioned (by the mode, SetupIPGrid or loaded properties) are
@@ -184,10 +173,10 @@ QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
   QVariantMap map;
   Guard([&] {
     const std::shared_ptr<clsInvoice> invoice = control_->InvoiceValues(TheRow);
-    // The record's lines are the store's block; reading it directly spares making their elements.
+    // The lines stay the store's block until the host reads them (toList()).
     map = SortedMapBuilder()
               .Add(QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense))
-              .Add(QStringLiteral("Distributions"), LinesOf(control_->Store().LineBlock(invoice->ID).get()))
+              .Add(QStringLiteral("Distributions"), QVariant::fromValue(InvoiceLineList(control_->Store().LineBlock(invoice->ID))))
               .Add(QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename))
               .Add(QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount))
               .Add(QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount))
