@@ -1,5 +1,7 @@
 #include "zenta/qt/toolkit/qt_grid_view.h"
 
+#include "zenta/qt/toolkit/qt_offer_list.h"
+
 #include <QHeaderView>
 #include <algorithm>
 #include <QKeyEvent>
@@ -82,6 +84,17 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
 }
 
 QtGridView::~QtGridView() = default;
+
+void QtGridView::ShowOffers(const std::vector<std::string>& offers, int current) {
+  if (!offers_ && offers.empty()) return;
+  if (!offers_) offers_ = new OfferList(*this);
+  offers_->Show(offers, current);
+}
+
+void QtGridView::OnOfferClicked(std::function<void(int offer)> handler) {
+  if (!offers_) offers_ = new OfferList(*this);
+  offers_->SetClickHandler(std::move(handler));
+}
 
 int QtGridView::ToTwips(int pixels) const { return logicalDpiY() > 0 ? pixels * 1440 / logicalDpiY() : pixels * 15; }
 
