@@ -114,6 +114,7 @@ TEST_F(AccountCompletionTest, ATakenOfferObeysTheLengthRule) {
     EXPECT_EQ(host.MessagesShown()[0].text,
               "The General Ledger Account Number must not be more than 30 characters in length.");
     EXPECT_EQ(Engine().CurrentColumn(), 1);
+    user.PressEscape();
     user.Click(Cancel());
   });
 }
