@@ -37,6 +37,12 @@ bool GstHstCell::Fill(platform::GridEngine& engine, const GstHstSettings& settin
   return true;
 }
 
+void GstHstCell::OfferFill(const GstHstSettings& settings, Date day, platform::CellActionArgs& action) const {
+  if (!settings.RateOn(day)) return;
+  action.key = GstHstSettings::kFillKey;
+  action.tooltip = "Fill in the GST/HST included at the rate (F8)";
+}
+
 std::string GstHstCell::Hint(const platform::GridEngine& engine, int row, const GstHstSettings& settings,
                              Date day) const {
   const std::optional<Currency> amount = AmountIn(engine.StoredValue(row, amount_column));

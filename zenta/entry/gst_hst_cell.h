@@ -17,6 +17,8 @@ struct GstHstCell {
   // The fill key in the GST/HST cell opens its edit holding the tax included in the row's
   // amount; leaving the cell then checks it as if typed. Consumes the key when it filled.
   bool Fill(platform::GridEngine& engine, const GstHstSettings& settings, Date day, platform::KeyDown& key) const;
+  // The small button that stands for the fill key, offered while a rate applies.
+  void OfferFill(const GstHstSettings& settings, Date day, platform::CellActionArgs& action) const;
   // The quiet note on row `row`'s GST/HST cell when it is more than a cent from what the rate
   // gives; "" otherwise.
   std::string Hint(const platform::GridEngine& engine, int row, const GstHstSettings& settings, Date day) const;

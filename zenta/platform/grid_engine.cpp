@@ -282,6 +282,14 @@ CellHintArgs GridEngine::Hint(int row, int column) const {
   return args;
 }
 
+CellActionArgs GridEngine::CurrentCellAction() const {
+  CellActionArgs args;
+  args.column = current_column_;
+  if (!handlers_.cell_action || !current_row_ || !CellEditable(current_column_)) return args;
+  handlers_.cell_action(args);
+  return args;
+}
+
 CellAppearance GridEngine::Appearance(int row, int column) const {
   CellAppearance appearance;
   if (editing_ && current_row_ == row && column == current_column_) {

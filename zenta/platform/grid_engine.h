@@ -152,6 +152,8 @@ class GridEngine {
   std::string DisplayedText(int row, int column) const { return Appearance(row, column).text; }
   // The cell's note from cell_hint (empty when there is none).
   CellHintArgs Hint(int row, int column) const;
+  // The button the current cell offers from cell_action (key 0: none).
+  CellActionArgs CurrentCellAction() const;
 
   // Editing.
   bool IsEditing() const { return editing_; }

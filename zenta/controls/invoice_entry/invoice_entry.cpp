@@ -269,6 +269,11 @@ void InvoiceEntry::WireGrid() {
     }
   };
   on.posted = [this](int message) { OnPosted(message); };
+  on.cell_action = [this](platform::CellActionArgs& args) {
+    if (args.column == Col::kGSTColumn && TaxCellApplies()) {
+      TaxCell().OfferFill(context_.GstHst(), TaxDay(grid_.Engine().CurrentRow()), args);
+    }
+  };
   on.cell_hint = [this](platform::CellHintArgs& args) {
     if (args.column != Col::kGSTColumn || !TaxCellApplies()) return;
     args.text = TaxCell().Hint(grid_.Engine(), args.row, context_.GstHst(), TaxDay(args.row));

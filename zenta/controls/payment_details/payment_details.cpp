@@ -126,6 +126,9 @@ void PaymentDetails::WireGrid() {
     if (column == kViewDistColumn) ViewDistClicked();
   };
   on.key_down = [this](platform::KeyDown& key) { OnKeyDown(key); };
+  on.cell_action = [this](platform::CellActionArgs& args) {
+    if (args.column == kGSTColumn && BusinessMode()) TaxCell().OfferFill(context_.GstHst(), host_.Today(), args);
+  };
   on.cell_hint = [this](platform::CellHintArgs& args) {
     if (args.column != kGSTColumn || !BusinessMode()) return;
     args.text = TaxCell().Hint(grid_.Engine(), args.row, context_.GstHst(), host_.Today());

@@ -1,5 +1,6 @@
 #include "zenta/qt/toolkit/qt_grid_view.h"
 
+#include "zenta/qt/toolkit/qt_cell_action_button.h"
 #include "zenta/qt/toolkit/qt_offer_list.h"
 
 #include <QHeaderView>
@@ -65,6 +66,7 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
   setItemDelegate(new GridCellDelegate(this, *engine_));
   footer_ = new GridFooter(*this, *engine_);
   footer_->hide();
+  cell_action_ = new CellActionButton(*this, *engine_);
   connect(horizontalHeader(), &QHeaderView::sectionResized, footer_, qOverload<>(&QWidget::update));
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, footer_, qOverload<>(&QWidget::update));
   setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -84,6 +86,16 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
 }
 
 QtGridView::~QtGridView() = default;
+
+void QtGridView::EditorOpened() {
+  viewport()->update();
+  cell_action_->Refresh();
+}
+
+void QtGridView::EditorClosed() {
+  viewport()->update();
+  cell_action_->Refresh();
+}
 
 void QtGridView::ShowOffers(const std::vector<std::string>& offers, int current) {
   if (!offers_ && offers.empty()) return;
@@ -214,6 +226,7 @@ void QtGridView::CurrentCellChanged() {
     scrollTo(index);
   }
   viewport()->update();
+  cell_action_->Refresh();
 }
 
 void QtGridView::Post(std::function<void()> action) {
