@@ -24,11 +24,15 @@ TEST_F(InvoiceGstFillTest, TheFillKeyPutsTheIncludedTaxInTheCellAndTabKeepsIt) {
   ASSERT_EQ(Engine().CurrentColumn(), InvoiceStore::kGSTColumn);
   PressFill();
   EXPECT_EQ(Engine().CellText(InvoiceStore::kGSTColumn), "13.00");
+  bool opened = false;
   InDialog([&] {
+    opened = true;
     EXPECT_EQ(Dialog().AmountToDistribute(), Money("100"));
     user.Click(Cancel());
   });
   user.PressTab();
+  user.PressTab();  // past the net expense: the split of 100.00 opens
+  EXPECT_TRUE(opened);
   user.LeaveControl();
   EXPECT_EQ(control.TotalGST(), Money("13"));
   EXPECT_EQ(control.TotalExpense(), Money("100"));
