@@ -12,6 +12,8 @@
 #include "zenta/qt/chart_of_accounts.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/ui_text.h"
+#include "zenta/qt/translator.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
@@ -172,6 +174,17 @@ class ChartAndTaxTest : public QObject {
     QVERIFY(ClickCell(Grid(), 0, 1));
     auto* button = Grid()->findChild<QToolButton*>("cellAction");
     QVERIFY(!button || !button->isVisible());
+  }
+
+  // Last: the translation stays installed for the rest of the program.
+  void theNotesReadInFrenchToo() {
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::Canada));
+    const QString hint = UiText("The rate gives GST/HST of 13.00");
+    QLocale::setDefault(before);
+    QCOMPARE(hint, QString("Au taux, la TPS/TVH serait de 13,00"));
+    QCOMPARE(UiText(AccountChart::kUnknownNote), QString("Absent du plan comptable"));
   }
 };
 
