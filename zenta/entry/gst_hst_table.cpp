@@ -1,7 +1,8 @@
 #include "zenta/entry/gst_hst_table.h"
 
+#include "zenta/core/utf8.h"
+
 #include <algorithm>
-#include <cctype>
 #include <tuple>
 
 namespace zenta {
@@ -77,12 +78,7 @@ std::vector<std::string> GstHstTable::Provinces() const {
 }
 
 std::string GstHstTable::NormalisedCode(std::string_view province) {
-  const auto first = province.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  const auto last = province.find_last_not_of(" \t");
-  std::string code(province.substr(first, last - first + 1));
-  for (char& c : code) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  return code;
+  return utf8::ToUpperAscii(utf8::Trim(province));
 }
 
 }  // namespace zenta

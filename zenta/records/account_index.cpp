@@ -1,7 +1,8 @@
 #include "zenta/records/account_index.h"
 
+#include "zenta/core/utf8.h"
+
 #include <algorithm>
-#include <cctype>
 
 namespace zenta {
 
@@ -18,10 +19,11 @@ std::vector<std::string> Words(std::string_view text) {
       if (!word.empty()) words.push_back(std::move(word));
       word.clear();
     } else {
-      word.push_back(static_cast<char>(std::toupper(static_cast<unsigned char>(c))));
+      word.push_back(c);
     }
   }
   if (!word.empty()) words.push_back(std::move(word));
+  for (std::string& each : words) each = utf8::ToUpperAscii(each);
   return words;
 }
 
@@ -43,13 +45,7 @@ AccountIndex::AccountIndex(const std::vector<GLAccount>& accounts) {
   std::sort(words_.begin(), words_.end());
 }
 
-std::string AccountIndex::Key(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  std::string key(text);
-  for (char& c : key) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  return key;
-}
+std::string AccountIndex::Key(std::string_view text) { return utf8::ToUpperAscii(utf8::Trim(text)); }
 
 std::vector<AccountIndex::Entry>::const_iterator AccountIndex::FirstWithPrefix(const std::vector<Entry>& keys,
                                                                              std::string_view prefix) {

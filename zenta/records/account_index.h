@@ -25,7 +25,7 @@ class AccountIndex {
   // once, at most `limit`. Positions in the list the index was built from.
   std::vector<int> Complete(std::string_view typed, std::size_t limit) const;
 
-  // Upper case, blanks around removed: how numbers and words are compared.
+  // ASCII upper case, blanks around removed: how numbers and words are compared.
   static std::string Key(std::string_view text);
 
  private:

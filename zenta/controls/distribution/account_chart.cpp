@@ -1,17 +1,11 @@
 #include "zenta/controls/distribution/account_chart.h"
 
+#include "zenta/core/utf8.h"
+
 namespace zenta {
 
-namespace {
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-}  // namespace
-
 AccountChart::Note AccountChart::NoteFor(std::string_view account) const {
-  if (!HasChart() || Trimmed(account).empty()) return {};
+  if (!HasChart() || utf8::Trim(account).empty()) return {};
   const GLAccount* found = chart_->Find(account);
   if (!found) return {kUnknownNote, true};
   if (!found->active) return {ChartOfAccounts::Caption(*found) + " (inactive)", true};
@@ -26,12 +20,12 @@ std::optional<AccountChart::Refusal> AccountChart::StrictRefusal(const platform:
     const Variant& cell = table.Get(row, account_column);
     if (cell.IsNull() || cell.IsEmpty()) continue;
     const std::string account = cell.ToString();
-    if (Trimmed(account).empty()) continue;
+    if (utf8::Trim(account).empty()) continue;
     const GLAccount* found = chart_->Find(account);
     if (found && found->active) continue;
     const std::string line = std::to_string(row - first + 1);
     const std::string what = found ? " is inactive in the chart of accounts." : " is not in the chart of accounts.";
-    return Refusal{row, "Line " + line + ": the account " + std::string(Trimmed(account)) + what};
+    return Refusal{row, "Line " + line + ": the account " + std::string(utf8::Trim(account)) + what};
   }
   return std::nullopt;
 }
