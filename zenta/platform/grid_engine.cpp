@@ -277,6 +277,7 @@ CellHintArgs GridEngine::Hint(int row, int column) const {
   args.row = row;
   args.column = column;
   if (!handlers_.cell_hint || IsAddNewRow(row) || row < FirstRow() || row >= FirstRow() + RowCount()) return args;
+  args.value = StoredValue(row, column);
   handlers_.cell_hint(args);
   return args;
 }

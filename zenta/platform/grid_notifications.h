@@ -52,11 +52,11 @@ struct FormatTextArgs {
 
 // A note on a cell (bookmark `row`), asked for when a view shows the cell's tooltip or its
 // description to assistive tools; `warning` also marks the cell visibly. A handler fills
-// `text` from what it reads of the row (views ask for every cell they paint, so a handler
-// returns at once for columns it has nothing to say about); a note never refuses anything.
+// `text`; a note never refuses anything.
 struct CellHintArgs {
   int row = 0;
   int column = 0;
+  Variant value;
   std::string text;      // out
   bool warning = false;  // out
 };

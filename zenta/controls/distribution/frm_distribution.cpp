@@ -186,10 +186,8 @@ void FrmDistribution::WireGrid() {
     ShowAccountName();
   };
   on.cell_hint = [this](platform::CellHintArgs& args) {
-    if (args.column != Column::kAccountColumn || !accounts_.HasChart()) return;
-    const Variant account = grid_.Engine().StoredValue(args.row, args.column);
-    if (Column::IsEmptyOrNull(account)) return;
-    const AccountChart::Note note = accounts_.NoteFor(account.ToString());
+    if (args.column != Column::kAccountColumn || Column::IsEmptyOrNull(args.value)) return;
+    const AccountChart::Note note = accounts_.NoteFor(args.value.ToString());
     args.text = note.text;
     args.warning = note.warning;
   };
