@@ -5,12 +5,14 @@
 #include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardItemModel>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <memory>
 
 #include "apps/demo/demo_window.h"
+#include "zenta/qt/chart_of_accounts.h"
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
@@ -197,6 +199,51 @@ void DemoSession::PlayInvoiceList() {
                 .arg(valid ? "True" : "False", reason, incomplete ? "True" : "False");
 }
 
+void DemoSession::PlayChartAndTax() {
+  // The host shares a small chart of accounts and sets the payer's province. A fourth invoice
+  // of 226.00 gets its GST/HST from the rate with F8; in the window that opens, "off" offers
+  // the office accounts and Down, Tab takes the first.
+  auto* accounts = new QStandardItemModel(&window_);
+  const char* const kChart[][2] = {{"5100", "OFFICE SUPPLIES"}, {"5110", "OFFICE EQUIPMENT"}, {"5200", "COURIER"},
+                                   {"6200", "TRAVEL"},          {"6300", "UTILITIES"}};
+  for (const auto& [number, name] : kChart) accounts->appendRow({new QStandardItem(number), new QStandardItem(name)});
+  qt::SetChartOfAccounts(accounts);
+  qt::SetGstHstProvince("ON");
+  auto& invoices = window_.Invoices();
+  QWidget* grid = invoices.Surface().FindQWidget("grInvoices");
+  ClickCell(grid, invoices.RowCount(), 1);
+  Type(QDate::currentDate().addDays(-1).toString("yyyy/MM/dd"));
+  Press(Qt::Key_Tab);
+  Type("Stationery");
+  Press(Qt::Key_Tab);
+  Type("22600");
+  Press(Qt::Key_Tab);
+  Press(Qt::Key_F8);  // the GST/HST included at Ontario's 13 %
+  Shoot("13-gst-hst-filled.png");
+  qt::testing::DialogScript split([this](qt::QtDialogSurface& dialog) {
+    ClickCell(dialog.FindQWidget("grTempDistribution"), 0, 1);
+    Type("off");
+    ShootWidget(dialog, "14-account-completion.png");
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Tab);  // takes 5100: with the whole 200.00 on it, Accept is next
+    Press(Qt::Key_Enter);
+  });
+  window_.BusinessSwitch().setFocus(Qt::TabFocusReason);  // the row is stored
+  Settle();
+  ClickCell(grid, invoices.RowCount() - 1, 6);  // View Dist
+  Settle();
+  CheckOpened(split, "The invoice split from the chart");
+  const QVariantMap invoice = invoices.InvoiceValues(invoices.RowCount());
+  notes_ << QString("GST/HST filled with F8 at 13 %: %1 of %2")
+                .arg(qt::ToQString(invoice.value("GSTAmount").value<Currency>()),
+                     qt::ToQString(invoice.value("InvoiceAmount").value<Currency>()));
+  for (const QVariant& line : invoice.value("Distributions").toList()) {
+    const QVariantMap map = line.toMap();
+    notes_ << QString("Line taken from the chart: %1 %2")
+                  .arg(map.value("GLAccount").toString(), qt::ToQString(map.value("Amount").value<Currency>()));
+  }
+}
+
 QStringList DemoSession::Play() {
   Settle();
   Shoot("01-empty-screen.png");
@@ -247,6 +294,7 @@ QStringList DemoSession::Play() {
   PlaySplitWithRefusal();
   PlayLockedFields();
   PlayInvoiceList();
+  PlayChartAndTax();
   return written_;
 }
 

@@ -43,6 +43,7 @@ class DemoSession {
   void PlaySplitWithRefusal();
   void PlayLockedFields();
   void PlayInvoiceList();
+  void PlayChartAndTax();
 
   DemoWindow& window_;
   QDir screenshots_;

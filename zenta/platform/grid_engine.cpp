@@ -272,6 +272,24 @@ Variant GridEngine::StoredValue(int row, int column) const {
   }
 }
 
+CellHintArgs GridEngine::Hint(int row, int column) const {
+  CellHintArgs args;
+  args.row = row;
+  args.column = column;
+  if (!handlers_.cell_hint || IsAddNewRow(row) || row < FirstRow() || row >= FirstRow() + RowCount()) return args;
+  args.value = StoredValue(row, column);
+  handlers_.cell_hint(args);
+  return args;
+}
+
+CellActionArgs GridEngine::CurrentCellAction() const {
+  CellActionArgs args;
+  args.column = current_column_;
+  if (!handlers_.cell_action || !current_row_ || !CellEditable(current_column_)) return args;
+  handlers_.cell_action(args);
+  return args;
+}
+
 CellAppearance GridEngine::Appearance(int row, int column) const {
   CellAppearance appearance;
   if (editing_ && current_row_ == row && column == current_column_) {

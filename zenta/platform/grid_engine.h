@@ -150,6 +150,10 @@ class GridEngine {
   // The text a person sees in a cell (open edit, then format_text applied), and its colours.
   CellAppearance Appearance(int row, int column) const;
   std::string DisplayedText(int row, int column) const { return Appearance(row, column).text; }
+  // The cell's note from cell_hint (empty when there is none).
+  CellHintArgs Hint(int row, int column) const;
+  // The button the current cell offers from cell_action (key 0: none).
+  CellActionArgs CurrentCellAction() const;
 
   // Editing.
   bool IsEditing() const { return editing_; }

@@ -50,6 +50,25 @@ struct FormatTextArgs {
   std::string text;  // in/out
 };
 
+// A note on a cell (bookmark `row`), asked for when a view shows the cell's tooltip or its
+// description to assistive tools; `warning` also marks the cell visibly. A handler fills
+// `text`; a note never refuses anything.
+struct CellHintArgs {
+  int row = 0;
+  int column = 0;
+  Variant value;
+  std::string text;      // out
+  bool warning = false;  // out
+};
+
+// A small button a view may show in the current cell, standing for a key the cell answers
+// (a fill key): a handler sets `key` and the button's `tooltip`; key 0 shows none.
+struct CellActionArgs {
+  int column = 0;
+  int key = 0;           // out
+  std::string tooltip;   // out
+};
+
 // The grid's own error report; `show_message` false (the default a handler should keep) means
 // the grid shows nothing of its own.
 struct GridErrorArgs {
@@ -76,6 +95,8 @@ struct GridHandlers {
   std::function<void(int row)> new_row_request;
   std::function<void(int column)> button_click;
   std::function<void(FormatTextArgs&)> format_text;
+  std::function<void(CellHintArgs&)> cell_hint;
+  std::function<void(CellActionArgs&)> cell_action;
   // The edit text of the current cell changed while typing; the handler may rewrite it with
   // SetCellText.
   std::function<void()> change;

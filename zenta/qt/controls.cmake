@@ -1,6 +1,7 @@
 # The public Qt control classes.
 add_library(zenta_qt STATIC
   application_context.cpp
+  chart_of_accounts.cpp
   control_widget.cpp
   govt_details.cpp
   invoice_entry.cpp

@@ -326,7 +326,8 @@ TEST_F(FrmDistributionTest, TheWindowIsLaidOutAsDesigned) {
   for (platform::Widget* child : Window().Children()) order.push_back(child->Name());
   EXPECT_EQ(order, (std::vector<std::string>{"grTempDistribution", "lblPaymentFor", "txtPaymentFor", "cmdGLAccept",
                                              "cmdGLCancel", "Frame1", "Shape1", "lblAmountToDistribute",
-                                             "lblRemaining"}));
+                                             "lblRemaining", "lblAccountName"}));
+  EXPECT_FALSE(Window().Get<headless::LabelWidget>("lblAccountName").Visible());
 }
 
 TEST_F(FrmDistributionTest, OneWindowServesEveryCallerAndKeepsItsFields) {

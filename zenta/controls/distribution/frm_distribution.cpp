@@ -31,6 +31,8 @@ constexpr TwipsRect kShape{0, 0, 8190, 3420};
 // What is to be split and what is left, beside the buttons in both layouts.
 constexpr TwipsRect kAmountLabel{120, 3540, 3660, 255};
 constexpr TwipsRect kRemainingLabel{120, 3810, 3660, 255};
+// Under the buttons, shown only with a chart: the name of the current line's account.
+constexpr TwipsRect kAccountNameLabel{120, 4215, 6450, 255};
 constexpr int kDeleteWidth = 450;
 constexpr int kAccountWidth = 4215;
 constexpr int kAmountWidth = 1500;
@@ -85,7 +87,9 @@ FrmDistribution::FrmDistribution(platform::HostServices& host, std::unique_ptr<p
       frame_(surface_->AddFrame({"Frame1", kFrame, "", false}, "")),
       shape_(surface_->AddShape({"Shape1", kShape, "", false})),
       amount_label_(surface_->AddLabel({"lblAmountToDistribute", kAmountLabel, "", false}, "")),
-      remaining_label_(surface_->AddLabel({"lblRemaining", kRemainingLabel, "", false}, "")) {
+      remaining_label_(surface_->AddLabel({"lblRemaining", kRemainingLabel, "", false}, "")),
+      account_name_(surface_->AddLabel({"lblAccountName", kAccountNameLabel, "", false}, "")) {
+  account_name_.SetVisible(false);
   surface_->SetRect(kWindow);
   surface_->SetCancelButton(cancel_);
 
@@ -167,10 +171,29 @@ void FrmDistribution::WireGrid() {
     const std::string text = engine.CellText(column);
     const std::string cleaned = model_.CleanCellText(column, text, host_);
     if (cleaned != text) engine.SetCellText(column, cleaned);
+    if (column != Column::kAccountColumn) return;
+    completion_.Update(cleaned);
+    ShowAccountName();
   };
   on.key_press = [this](platform::CellKeyPressArgs& args) { args.key = model_.FilterCellKey(args); };
-  on.key_down = [this](platform::KeyDown& key) { OnKeyDown(key); };
-  on.row_col_change = [this](std::optional<int>, int) { KeepOffDeleteColumn(); };
+  on.key_down = [this](platform::KeyDown& key) {
+    if (const std::optional<std::string> number = completion_.HandleKey(key)) PutAccount(*number);
+    if (key.key_code != 0) OnKeyDown(key);
+  };
+  on.row_col_change = [this](std::optional<int>, int) {
+    completion_.Hide();
+    KeepOffDeleteColumn();
+    ShowAccountName();
+  };
+  on.cell_hint = [this](platform::CellHintArgs& args) {
+    if (args.column != Column::kAccountColumn || Column::IsEmptyOrNull(args.value)) return;
+    const AccountChart::Note note = accounts_.NoteFor(args.value.ToString());
+    args.text = note.text;
+    args.warning = note.warning;
+  };
+  grid_.OnOfferClicked([this](int offer) {
+    if (const std::optional<std::string> number = completion_.Take(offer)) PutAccount(*number);
+  });
 }
 
 Variant FrmDistribution::CalculateDistAmounts() {
@@ -189,6 +212,28 @@ void FrmDistribution::SetupForm() {
   }
   engine.Bind(model_.Table());
   CalculateDistAmounts();
+  ShowAccountName();
+}
+
+void FrmDistribution::SetChart(std::shared_ptr<const ChartOfAccounts> chart) {
+  accounts_.SetChart(std::move(chart));
+  completion_.Hide();
+  account_name_.SetVisible(accounts_.HasChart());
+  ShowAccountName();
+}
+
+void FrmDistribution::ShowAccountName() {
+  if (!accounts_.HasChart()) return;
+  const platform::GridEngine& engine = grid_.Engine();
+  account_name_.SetCaption(engine.CurrentRow() ? accounts_.NoteFor(engine.CellText(Column::kAccountColumn)).text : "");
+}
+
+// A taken offer goes in as if typed: the same cleaning, and the length rule when the cell is left.
+void FrmDistribution::PutAccount(const std::string& number) {
+  platform::GridEngine& engine = grid_.Engine();
+  if (engine.CurrentColumn() != Column::kAccountColumn) return;
+  engine.SetCellText(Column::kAccountColumn, model_.CleanCellText(Column::kAccountColumn, number, host_));
+  ShowAccountName();
 }
 
 Variant FrmDistribution::PaymentFor() const { return Variant(payment_for_.Text()); }
@@ -226,7 +271,11 @@ void FrmDistribution::SetFXCurrencyCode(const std::string& code) {
   grid_.Engine().SetColumnCaption(Column::kPaymentColumn, model_.PaymentColumnCaption());
 }
 
-void FrmDistribution::Show() { surface_->ShowModal(); }
+void FrmDistribution::Show() {
+  completion_.Hide();
+  surface_->ShowModal();
+  completion_.Hide();
+}
 
 void FrmDistribution::SetAmountToDistribute(Currency curAmount) {
   model_.SetAmountToDistribute(curAmount);
@@ -270,6 +319,7 @@ void FrmDistribution::AfterLinesChanged(std::optional<int> changed_row) {
 }
 
 void FrmDistribution::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
+  completion_.Hide();
   platform::GridEngine& engine = grid_.Engine();
   std::string text = engine.CellText(args.column);
   const std::string typed = text;
@@ -390,6 +440,7 @@ void FrmDistribution::OnAccept() {
     FocusGrid();
     return;
   }
+  if (RefusedByChart()) return;
   const Variant total = CalculateDistAmounts();
   if (!total.IsEmpty() && total.ToCurrency() == model_.AmountToDistribute()) {
     model_.SetChosen(true);
@@ -400,7 +451,21 @@ void FrmDistribution::OnAccept() {
   FocusGrid();
 }
 
+bool FrmDistribution::RefusedByChart() {
+  if (!model_.Table()) return false;
+  const std::optional<AccountChart::Refusal> refusal =
+      accounts_.StrictRefusal(*model_.Table(), Column::kAccountColumn);
+  if (!refusal) return false;
+  Inform(refusal->message);
+  platform::GridEngine& engine = grid_.Engine();
+  engine.SetCurrentRow(refusal->row);
+  engine.SetCurrentColumn(Column::kAccountColumn);
+  FocusGrid();
+  return true;
+}
+
 void FrmDistribution::OnCancel() {
+  completion_.Hide();
   grid_.Engine().CancelEdit();
   model_.SetChosen(false);
   surface_->Hide();

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "zenta/controls/distribution/account_chart.h"
+#include "zenta/controls/distribution/account_completion.h"
 #include "zenta/controls/distribution/distribution_model.h"
 #include "zenta/core/currency.h"
 #include "zenta/core/variant.h"
@@ -56,6 +58,12 @@ class FrmDistribution {
   const std::string& FXCurrencyCode() const { return model_.FXCurrencyCode(); }
   void SetFXCurrencyCode(const std::string& code);
 
+  // The host's chart of accounts (none: accounts are free text) and whether Accept refuses a
+  // line whose account the chart does not hold or holds inactive.
+  void SetChart(std::shared_ptr<const ChartOfAccounts> chart);
+  void SetStrictAccounts(bool strict) { accounts_.SetStrict(strict); }
+  const AccountChart& Accounts() const { return accounts_; }
+
   // Shows the window modally; returns once accept or cancel has hidden it.
   void Show();
   // Ends an open showing as the Cancel button does, for a caller that can no longer take the
@@ -85,7 +93,11 @@ class FrmDistribution {
   void OnNewRowRequest();
   void OnActivate();
   void OnAccept();
+  bool RefusedByChart();
   void OnCancel();
+  // The current line's account named in the footer area.
+  void ShowAccountName();
+  void PutAccount(const std::string& number);
 
   platform::HostServices& host_;
   std::unique_ptr<platform::DialogSurface> surface_;
@@ -98,6 +110,9 @@ class FrmDistribution {
   platform::Widget& shape_;
   platform::Label& amount_label_;
   platform::Label& remaining_label_;
+  platform::Label& account_name_;
+  AccountChart accounts_;
+  AccountCompletion completion_{grid_, accounts_};
   std::optional<int> deleting_row_;
 };
 

@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include "zenta/controls/distribution/frm_distribution.h"
+#include "zenta/entry/gst_hst_settings.h"
+#include "zenta/records/chart_of_accounts.h"
 #include "zenta/platform/dialog_surface.h"
 #include "zenta/platform/host_services.h"
 
@@ -34,11 +36,24 @@ class LibraryContext {
 
   static constexpr std::string_view kHomeCurrency = "CAD";
 
+  // The host's chart of accounts, for completion and names in every account cell; none (the
+  // default) leaves accounts free text. Strict: Accept refuses an account not in the chart.
+  const std::shared_ptr<const ChartOfAccounts>& Chart() const { return chart_; }
+  void SetChart(std::shared_ptr<const ChartOfAccounts> chart);
+  bool StrictAccounts() const { return strict_accounts_; }
+  void SetStrictAccounts(bool strict);
+  // The payer's province or rate, from which the GST/HST of an amount is worked out.
+  GstHstSettings& GstHst() { return gst_hst_; }
+  const GstHstSettings& GstHst() const { return gst_hst_; }
+
  private:
   platform::HostServices& host_;
   DialogFactory factory_;
   std::unique_ptr<FrmDistribution> distribution_;
   std::string currency_code_{kHomeCurrency};
+  std::shared_ptr<const ChartOfAccounts> chart_;
+  bool strict_accounts_ = false;
+  GstHstSettings gst_hst_;
 };
 
 }  // namespace zenta

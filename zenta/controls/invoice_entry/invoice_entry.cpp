@@ -274,6 +274,15 @@ void InvoiceEntry::WireGrid() {
     }
   };
   on.posted = [this](int message) { OnPosted(message); };
+  on.cell_action = [this](platform::CellActionArgs& args) {
+    if (args.column == Col::kGSTColumn && TaxCellApplies()) {
+      TaxCell().OfferFill(context_.GstHst(), TaxDay(grid_.Engine().CurrentRow()), args);
+    }
+  };
+  on.cell_hint = [this](platform::CellHintArgs& args) {
+    if (args.column != Col::kGSTColumn || !TaxCellApplies()) return;
+    args.text = TaxCell().Hint(grid_.Engine(), args.row, context_.GstHst(), TaxDay(args.row));
+  };
   on.format_text = [this](platform::FormatTextArgs& args) {
     if (args.column < Col::kAmountColumn || args.column > Col::kExpenseColumn || args.value.IsEmpty()) return;
     if (ForeignMode() && args.column == Col::kGSTColumn) {
@@ -285,6 +294,7 @@ void InvoiceEntry::WireGrid() {
 }
 
 void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
+  if (TaxCellApplies() && TaxCell().Fill(grid_.Engine(), context_.GstHst(), TaxDay(grid_.Engine().CurrentRow()), key)) return;
   const bool forward = key.key_code == platform::keys::kTab || key.key_code == platform::keys::kEnter;
   if (!forward || key.shift != platform::kNoShift) return;
   platform::GridEngine& engine = grid_.Engine();
@@ -425,6 +435,19 @@ void InvoiceEntry::OpenPosted() {
   } catch (const HostError&) {
     // The window is open for another control: the key or click opens nothing.
   }
+}
+
+entry::GstHstCell InvoiceEntry::TaxCell() { return {Col::kAmountColumn, Col::kGSTColumn}; }
+
+bool InvoiceEntry::TaxCellApplies() const { return BusinessMode() && !ForeignMode(); }
+
+// The rate in force on the invoice's date, or today's for a row without one.
+Date InvoiceEntry::TaxDay(std::optional<int> row) const {
+  if (row) {
+    const Variant date = grid_.Engine().StoredValue(*row, Col::kDateColumn);
+    if (date.GetType() == Variant::Type::Date && !date.ToDate().IsZero()) return date.ToDate();
+  }
+  return host_.Today();
 }
 
 bool InvoiceEntry::NetExpenseFits() const {

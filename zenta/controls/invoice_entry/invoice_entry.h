@@ -16,6 +16,7 @@
 #include "zenta/core/ole_color.h"
 #include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
+#include "zenta/entry/gst_hst_cell.h"
 #include "zenta/platform/control_surface.h"
 #include "zenta/platform/grid.h"
 #include "zenta/platform/host_services.h"
@@ -193,6 +194,10 @@ class InvoiceEntry {
   void ClearRefusedAmount(platform::BeforeColUpdateArgs& args);
   // Whether the row's amount less its GST/HST, as typed, is within the currency range.
   bool NetExpenseFits() const;
+  // The GST/HST fill key and quiet hint, in business mode in Canadian dollars.
+  static entry::GstHstCell TaxCell();
+  bool TaxCellApplies() const;
+  Date TaxDay(std::optional<int> row) const;
   void OnKeyDown(platform::KeyDown& key);
   // Net expense (business) or the conversion (foreign) of store row `index`.
   void DeriveColumns(int index);

@@ -126,6 +126,13 @@ void PaymentDetails::WireGrid() {
     if (column == kViewDistColumn) ViewDistClicked();
   };
   on.key_down = [this](platform::KeyDown& key) { OnKeyDown(key); };
+  on.cell_action = [this](platform::CellActionArgs& args) {
+    if (args.column == kGSTColumn && BusinessMode()) TaxCell().OfferFill(context_.GstHst(), host_.Today(), args);
+  };
+  on.cell_hint = [this](platform::CellHintArgs& args) {
+    if (args.column != kGSTColumn || !BusinessMode()) return;
+    args.text = TaxCell().Hint(grid_.Engine(), args.row, context_.GstHst(), host_.Today());
+  };
   on.key_press = [this](platform::CellKeyPressArgs& args) { OnKeyPress(args); };
 }
 
@@ -468,7 +475,10 @@ void PaymentDetails::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
 }
 
 // Tab or Enter past the last amount leads into the distribution window.
+entry::GstHstCell PaymentDetails::TaxCell() { return {kPayAmtColumn, kGSTColumn}; }
+
 void PaymentDetails::OnKeyDown(platform::KeyDown& key) {
+  if (BusinessMode() && TaxCell().Fill(grid_.Engine(), context_.GstHst(), host_.Today(), key)) return;
   if ((key.key_code != platform::keys::kTab && key.key_code != platform::keys::kEnter) ||
       key.shift != platform::kNoShift) {
     return;

@@ -12,6 +12,7 @@
 #include "zenta/controls/payment_details/payment_properties.h"
 #include "zenta/core/currency.h"
 #include "zenta/core/variant.h"
+#include "zenta/entry/gst_hst_cell.h"
 #include "zenta/platform/control_surface.h"
 #include "zenta/platform/grid.h"
 #include "zenta/platform/host_services.h"
@@ -130,6 +131,8 @@ class PaymentDetails {
   void OnBeforeColEdit(platform::BeforeColEditArgs& args);
   void OnBeforeColUpdate(platform::BeforeColUpdateArgs& args);
   void OnKeyDown(platform::KeyDown& key);
+  // The GST/HST fill key and quiet hint of the payment row.
+  static entry::GstHstCell TaxCell();
   void OnKeyPress(platform::CellKeyPressArgs& args);
 
   platform::ControlSurface& surface_;

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
 
 #include "zenta/platform/grid.h"
 #include "zenta/platform/headless/widget_base.h"
@@ -35,6 +38,18 @@ class GridWidget : public WidgetBase<platform::Grid>, public platform::GridView 
   void TakeFocus() override { SetFocus(); }
   void Post(std::function<void()> action) override;
 
+  // The offers the control shows under the current cell, the marked one, and a click on one.
+  void ShowOffers(const std::vector<std::string>& offers, int current) override {
+    offers_ = offers;
+    current_offer_ = offers.empty() ? -1 : current;
+  }
+  void OnOfferClicked(std::function<void(int offer)> handler) override { offer_clicked_ = std::move(handler); }
+  const std::vector<std::string>& Offers() const { return offers_; }
+  int CurrentOffer() const { return current_offer_; }
+  void ClickOffer(int offer) {
+    if (offer_clicked_ && offer >= 0 && offer < static_cast<int>(offers_.size())) offer_clicked_(offer);
+  }
+
   void HandleKeyDown(platform::KeyDown& key) override { engine_.KeyDown(key); }
   void HandleCharacter(char32_t character) override { engine_.TypeCharacter(character); }
   void FocusGained() override { engine_.FocusGained(); }
@@ -42,6 +57,9 @@ class GridWidget : public WidgetBase<platform::Grid>, public platform::GridView 
 
  private:
   platform::GridEngine engine_;
+  std::vector<std::string> offers_;
+  int current_offer_ = -1;
+  std::function<void(int)> offer_clicked_;
 };
 
 }  // namespace zenta::headless

@@ -4,6 +4,7 @@
 #include "zenta/platform/headless/button_widget.h"
 #include "zenta/platform/headless/check_box_widget.h"
 #include "zenta/platform/headless/form.h"
+#include "zenta/platform/headless/grid_widget.h"
 #include "zenta/platform/headless/text_box_widget.h"
 #include "zenta/platform/typed_key.h"
 
@@ -65,6 +66,12 @@ void User::ClickCell(platform::Grid& grid, int row, int column) {
     } else {
       engine.ClickCell(row, column);
     }
+  });
+}
+
+void User::ClickOffer(platform::Grid& grid, int offer) {
+  Turn(form_, [&] {
+    if (auto* widget = dynamic_cast<GridWidget*>(&grid)) widget->ClickOffer(offer);
   });
 }
 

@@ -35,6 +35,8 @@ class User {
   // A click on a grid's cell (row is a bookmark): the grid takes the focus, then the cell
   // becomes current; on a button cell the button clicks.
   void ClickCell(platform::Grid& grid, int row, int column);
+  // A click on one of the completion offers a grid lists under its current cell.
+  void ClickOffer(platform::Grid& grid, int offer);
   // Focus to the widget without clicking it.
   void Focus(platform::Widget& widget);
   // Focus to the first host field outside every control (or nowhere if there is none).

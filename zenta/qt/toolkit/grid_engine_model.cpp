@@ -1,7 +1,9 @@
 #include "zenta/qt/toolkit/grid_engine_model.h"
 
+#include <QApplication>
 #include <QColor>
 #include <QPalette>
+#include <QStyle>
 #include <QWidget>
 
 #include "zenta/qt/toolkit/qt_conversions.h"
@@ -26,9 +28,16 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
       if (IsButton(row, column)) return UiText(engine_.Column(column).button_tooltip);
       return UiText(engine_.Column(column).caption) + QStringLiteral(": ") + ShownText(row, column);
     case Qt::ToolTipRole:
-      return IsButton(row, column) ? UiText(engine_.Column(column).button_tooltip) : QVariant();
-    case Qt::AccessibleDescriptionRole:
-      return UiText(engine_.Column(column).caption);
+      if (IsButton(row, column)) return UiText(engine_.Column(column).button_tooltip);
+      return HintText(row, column);
+    case Qt::AccessibleDescriptionRole: {
+      const QString hint = HintText(row, column);
+      const QString caption = UiText(engine_.Column(column).caption);
+      return hint.isEmpty() ? caption : caption + QStringLiteral(": ") + hint;
+    }
+    case Qt::DecorationRole:
+      if (!engine_.Hint(row, column).warning) return {};
+      return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
     case Qt::ForegroundRole: {
       const platform::CellAppearance appearance = engine_.Appearance(row, column);
       if (appearance.fore_color) return ToQColor(*appearance.fore_color, Palette());
@@ -49,6 +58,11 @@ QVariant GridEngineModel::data(const QModelIndex& index, int role) const {
     default:
       return {};
   }
+}
+
+QString GridEngineModel::HintText(int row, int column) const {
+  const std::string text = engine_.Hint(row, column).text;
+  return text.empty() ? QString() : UiText(text);
 }
 
 bool GridEngineModel::IsButton(int row, int column) const {

@@ -35,6 +35,8 @@ class GridEngineModel : public QAbstractTableModel {
   QString ShownText(int row, int column) const;
   // A cell of a button column that stands for an action (an existing row, a described button).
   bool IsButton(int row, int column) const;
+  // The cell's note from the engine, translated; empty when it has none.
+  QString HintText(int row, int column) const;
   // The view's palette: system colours and unset colours follow the host's theme.
   QPalette Palette() const;
 

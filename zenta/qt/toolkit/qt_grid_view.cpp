@@ -1,5 +1,8 @@
 #include "zenta/qt/toolkit/qt_grid_view.h"
 
+#include "zenta/qt/toolkit/qt_cell_action_button.h"
+#include "zenta/qt/toolkit/qt_offer_list.h"
+
 #include <QHeaderView>
 #include <algorithm>
 #include <QKeyEvent>
@@ -63,6 +66,7 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
   setItemDelegate(new GridCellDelegate(this, *engine_));
   footer_ = new GridFooter(*this, *engine_);
   footer_->hide();
+  cell_action_ = new CellActionButton(*this, *engine_);
   connect(horizontalHeader(), &QHeaderView::sectionResized, footer_, qOverload<>(&QWidget::update));
   connect(horizontalScrollBar(), &QScrollBar::valueChanged, footer_, qOverload<>(&QWidget::update));
   setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -82,6 +86,27 @@ QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, 
 }
 
 QtGridView::~QtGridView() = default;
+
+void QtGridView::EditorOpened() {
+  viewport()->update();
+  cell_action_->Refresh();
+}
+
+void QtGridView::EditorClosed() {
+  viewport()->update();
+  cell_action_->Refresh();
+}
+
+void QtGridView::ShowOffers(const std::vector<std::string>& offers, int current) {
+  if (!offers_ && offers.empty()) return;
+  if (!offers_) offers_ = new OfferList(*this);
+  offers_->Show(offers, current);
+}
+
+void QtGridView::OnOfferClicked(std::function<void(int offer)> handler) {
+  if (!offers_) offers_ = new OfferList(*this);
+  offers_->SetClickHandler(std::move(handler));
+}
 
 int QtGridView::ToTwips(int pixels) const { return logicalDpiY() > 0 ? pixels * 1440 / logicalDpiY() : pixels * 15; }
 
@@ -201,6 +226,7 @@ void QtGridView::CurrentCellChanged() {
     scrollTo(index);
   }
   viewport()->update();
+  cell_action_->Refresh();
 }
 
 void QtGridView::Post(std::function<void()> action) {

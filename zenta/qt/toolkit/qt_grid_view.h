@@ -10,6 +10,8 @@ namespace zenta::qt {
 
 class GridEngineModel;
 class GridFooter;
+class OfferList;
+class CellActionButton;
 
 // A grid on a QTableView: a thin view over platform::GridEngine. The model reads the engine on
 // demand (no per-cell items, fixed row heights), so long lists stay cheap; keys, clicks and
@@ -30,13 +32,15 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void RowChanged(int row) override;
   void ColumnsChanged() override;
   void CurrentCellChanged() override;
-  void EditorOpened() override { viewport()->update(); }
+  void EditorOpened() override;
   void EditorChanged() override { viewport()->update(); }
-  void EditorClosed() override { viewport()->update(); }
+  void EditorClosed() override;
   bool HasFocus() const override { return hasFocus(); }
   void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
   void Post(std::function<void()> action) override;
   int VisibleRows() const override;
+  void ShowOffers(const std::vector<std::string>& offers, int current) override;
+  void OnOfferClicked(std::function<void(int offer)> handler) override;
 
   // The width in pixels that shows every visible column with its whole caption.
   int CaptionsWidth() const;
@@ -61,6 +65,8 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
 
   GridEngineModel* model_;
   GridFooter* footer_ = nullptr;
+  OfferList* offers_ = nullptr;  // made on first use
+  CellActionButton* cell_action_ = nullptr;
   std::unique_ptr<platform::GridEngine> engine_;
   bool moving_ = false;
 };

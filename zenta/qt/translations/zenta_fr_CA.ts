@@ -272,6 +272,18 @@
         <translation>Reste</translation>
     </message>
     <message>
+        <source>Not in the chart of accounts</source>
+        <translation>Absent du plan comptable</translation>
+    </message>
+    <message>
+        <source>The rate gives GST/HST of</source>
+        <translation>Au taux, la TPS/TVH serait de</translation>
+    </message>
+    <message>
+        <source>Fill in the GST/HST included at the rate (F8)</source>
+        <translation>Inscrire la TPS/TVH incluse au taux (F8)</translation>
+    </message>
+    <message>
         <source>Delete this line</source>
         <translation>Supprimer cette ligne</translation>
     </message>
