@@ -1,5 +1,6 @@
 #include "zenta/qt/toolkit/qt_date_edit.h"
 
+#include "zenta/qt/toolkit/accessible_date.h"
 #include "zenta/qt/toolkit/ui_text.h"
 
 #include <QCalendarWidget>
@@ -46,6 +47,7 @@ bool IsDateKey(const QKeyEvent& key) {
 QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
     : QWidget(parent), QtWidgetBase(*this, definition), editor_(new MaskedDateLine(this)),
       button_(new QToolButton(this)), popup_(new QFrame(this, Qt::Popup)), calendar_(new QCalendarWidget(popup_)) {
+  InstallAccessibleDates();
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -58,6 +60,8 @@ QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
   button_->setArrowType(Qt::DownArrow);
   button_->setFocusPolicy(Qt::NoFocus);
   button_->setToolTip(UiText("Calendar (F4)"));
+  // A button with an arrow and no text would otherwise have no name to read.
+  button_->setAccessibleName(UiText("Calendar (F4)"));
   connect(editor_, &QLineEdit::textEdited, this, [this] { SetRefused(false); });
   connect(button_, &QToolButton::clicked, this, [this] { OpenCalendar(); });
 

@@ -1,0 +1,133 @@
+#include "zenta/qt/toolkit/accessible_date.h"
+
+#include <QAccessibleWidget>
+#include <QLineEdit>
+#include <algorithm>
+
+#include "zenta/core/date_format.h"
+#include "zenta/qt/toolkit/qt_date_edit.h"
+
+namespace zenta::qt {
+namespace {
+
+class AccessibleDateLine : public QAccessibleWidget,
+                           public QAccessibleTextInterface,
+                           public QAccessibleEditableTextInterface {
+ public:
+  AccessibleDateLine(QLineEdit* editor, QtDateEdit* field)
+      : QAccessibleWidget(editor, QAccessible::EditableText), editor_(editor), field_(field) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::EditableTextInterface) return static_cast<QAccessibleEditableTextInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.editable = !editor_->isReadOnly();
+    state.readOnly = editor_->isReadOnly();
+    state.selectableText = true;
+    return state;
+  }
+
+  QString text(QAccessible::Text kind) const override {
+    switch (kind) {
+      case QAccessible::Name: {
+        // The field carries the caption's name; the edit inside it is what takes the focus.
+        const QString own = editor_->accessibleName();
+        if (!own.isEmpty()) return own;
+        return field_->accessibleName().isEmpty() ? field_->toolTip() : field_->accessibleName();
+      }
+      case QAccessible::Description:
+        // The field's tip, which says so when a typed date was refused.
+        return field_->accessibleName().isEmpty() ? QString() : field_->toolTip();
+      case QAccessible::Value: return Reading();
+      default: return QAccessibleWidget::text(kind);
+    }
+  }
+  void setText(QAccessible::Text kind, const QString& text) override {
+    if (kind == QAccessible::Value) Type(text);
+  }
+
+  // Text.
+  void selection(int index, int* start, int* end) const override {
+    *start = *end = 0;
+    if (index == 0 && editor_->hasSelectedText() && !Reading().isEmpty()) {
+      *start = editor_->selectionStart();
+      *end = *start + static_cast<int>(editor_->selectedText().size());
+    }
+  }
+  int selectionCount() const override { return editor_->hasSelectedText() && !Reading().isEmpty() ? 1 : 0; }
+  void addSelection(int start, int end) override { setSelection(0, start, end); }
+  void removeSelection(int) override { editor_->deselect(); }
+  void setSelection(int, int start, int end) override { editor_->setSelection(start, end - start); }
+  int cursorPosition() const override { return Reading().isEmpty() ? 0 : editor_->cursorPosition(); }
+  void setCursorPosition(int position) override { editor_->setCursorPosition(position); }
+  QString text(int start, int end) const override { return Reading().mid(start, end - start); }
+  int characterCount() const override { return static_cast<int>(Reading().size()); }
+  QRect characterRect(int offset) const override {
+    if (offset < 0 || offset >= characterCount()) return {};
+    const QFontMetrics metrics(editor_->font());
+    const QString shown = editor_->displayText();
+    const QRect contents = editor_->contentsRect();
+    const QRect local(contents.left() + metrics.horizontalAdvance(shown.left(offset)), contents.top(),
+                      metrics.horizontalAdvance(shown.at(offset)), contents.height());
+    return QRect(editor_->mapToGlobal(local.topLeft()), local.size());
+  }
+  int offsetAtPoint(const QPoint& point) const override { return editor_->cursorPositionAt(editor_->mapFromGlobal(point)); }
+  void scrollToSubstring(int, int) override {}
+  QString attributes(int offset, int* start, int* end) const override {
+    *start = *end = offset;
+    return {};
+  }
+
+  // Editable text: edits of the date as read, put into the mask as typed.
+  void deleteText(int start, int end) override { replaceText(start, end, QString()); }
+  void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
+  void replaceText(int start, int end, const QString& text) override {
+    QString date = Reading();
+    start = std::clamp(start, 0, static_cast<int>(date.size()));
+    end = std::clamp(end, start, static_cast<int>(date.size()));
+    Type(date.replace(start, end - start, text));
+  }
+
+ private:
+  // An empty mask reads as nothing; anything typed reads as shown, blanks included.
+  QString Reading() const {
+    const QString shown = editor_->displayText();
+    return shown == ToQString(std::string(formats::kDateMask)) ? QString() : shown;
+  }
+  void Type(const QString& text) {
+    if (editor_->isReadOnly() || !editor_->isEnabled()) return;
+    // Only the digits: the mask places its own slashes.
+    QString digits;
+    for (QChar c : text) {
+      if (c.isDigit()) digits += c;
+    }
+    editor_->setText(digits);
+    editor_->setModified(true);
+    emit editor_->textEdited(editor_->text());
+  }
+
+  QLineEdit* editor_;
+  QtDateEdit* field_;
+};
+
+QAccessibleInterface* DateFactory(const QString&, QObject* object) {
+  auto* editor = qobject_cast<QLineEdit*>(object);
+  auto* field = editor ? dynamic_cast<QtDateEdit*>(editor->parentWidget()) : nullptr;
+  return field && &field->Editor() == editor ? new AccessibleDateLine(editor, field) : nullptr;
+}
+
+}  // namespace
+
+void InstallAccessibleDates() {
+  static const bool installed = [] {
+    QAccessible::installFactory(&DateFactory);
+    return true;
+  }();
+  (void)installed;
+}
+
+}  // namespace zenta::qt
