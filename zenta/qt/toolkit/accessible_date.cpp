@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <algorithm>
 
-#include "zenta/core/date_format.h"
+#include "zenta/qt/toolkit/masked_date_line.h"
 #include "zenta/qt/toolkit/qt_date_edit.h"
 
 namespace zenta::qt {
@@ -14,8 +14,7 @@ class AccessibleDateLine : public QAccessibleWidget,
                            public QAccessibleTextInterface,
                            public QAccessibleEditableTextInterface {
  public:
-  AccessibleDateLine(QLineEdit* editor, QtDateEdit* field)
-      : QAccessibleWidget(editor, QAccessible::EditableText), editor_(editor), field_(field) {}
+  explicit AccessibleDateLine(MaskedDateLine* editor) : QAccessibleWidget(editor, QAccessible::EditableText), editor_(editor) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
@@ -36,12 +35,15 @@ class AccessibleDateLine : public QAccessibleWidget,
       case QAccessible::Name: {
         // The field carries the caption's name; the edit inside it is what takes the focus.
         const QString own = editor_->accessibleName();
-        if (!own.isEmpty()) return own;
-        return field_->accessibleName().isEmpty() ? field_->toolTip() : field_->accessibleName();
+        const QWidget* field = Field();
+        if (!own.isEmpty() || !field) return own;
+        return field->accessibleName().isEmpty() ? field->toolTip() : field->accessibleName();
       }
-      case QAccessible::Description:
+      case QAccessible::Description: {
         // The field's tip, which says so when a typed date was refused.
-        return field_->accessibleName().isEmpty() ? QString() : field_->toolTip();
+        const QWidget* field = Field();
+        return field && !field->accessibleName().isEmpty() ? field->toolTip() : QString();
+      }
       case QAccessible::Value: return Reading();
       default: return QAccessibleWidget::text(kind);
     }
@@ -93,11 +95,9 @@ class AccessibleDateLine : public QAccessibleWidget,
   }
 
  private:
-  // An empty mask reads as nothing; anything typed reads as shown, blanks included.
-  QString Reading() const {
-    const QString shown = editor_->displayText();
-    return shown == ToQString(std::string(formats::kDateMask)) ? QString() : shown;
-  }
+  QString Reading() const { return editor_->Reading(); }
+  // The date field the edit sits in; it may still be under construction when first asked.
+  const QWidget* Field() const { return dynamic_cast<const QtDateEdit*>(editor_->parentWidget()); }
   void Type(const QString& text) {
     if (editor_->isReadOnly() || !editor_->isEnabled()) return;
     // Only the digits: the mask places its own slashes.
@@ -110,14 +110,12 @@ class AccessibleDateLine : public QAccessibleWidget,
     emit editor_->textEdited(editor_->text());
   }
 
-  QLineEdit* editor_;
-  QtDateEdit* field_;
+  MaskedDateLine* editor_;
 };
 
 QAccessibleInterface* DateFactory(const QString&, QObject* object) {
-  auto* editor = qobject_cast<QLineEdit*>(object);
-  auto* field = editor ? dynamic_cast<QtDateEdit*>(editor->parentWidget()) : nullptr;
-  return field && &field->Editor() == editor ? new AccessibleDateLine(editor, field) : nullptr;
+  auto* editor = dynamic_cast<MaskedDateLine*>(object);
+  return editor ? new AccessibleDateLine(editor) : nullptr;
 }
 
 }  // namespace

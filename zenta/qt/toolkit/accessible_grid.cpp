@@ -173,7 +173,8 @@ class AccessibleGridCell : public QAccessibleInterface,
     if (!isValid()) return {};
     const QModelIndex index = Index();
     switch (kind) {
-      case QAccessible::Name: return index.data(Qt::AccessibleTextRole).toString();
+      case QAccessible::Name:
+        return IsButton() ? UiText(Described().button_tooltip) : index.data(Qt::AccessibleTextRole).toString();
       case QAccessible::Description:
         return IsButton() ? index.data(Qt::DisplayRole).toString() : index.data(Qt::AccessibleDescriptionRole).toString();
       case QAccessible::Value: return IsButton() ? QString() : index.data(Qt::DisplayRole).toString();
@@ -280,9 +281,16 @@ class AccessibleGridCell : public QAccessibleInterface,
   QModelIndex Index() const { return view_->model()->index(row_, column_); }
   int Row() const { return view_->Engine().BookmarkAt(row_); }
   const platform::GridColumn& Described() const { return view_->Engine().Column(column_); }
-  bool IsButton() const { return isValid() && Described().kind == ColumnKind::Button; }
+  // The row for a new one has nothing to press until something is typed in it.
+  bool IsButton() const {
+    if (!isValid() || Described().kind != ColumnKind::Button || Described().button_tooltip.empty()) return false;
+    const platform::GridEngine& engine = view_->Engine();
+    return !engine.IsAddNewRow(Row()) || (engine.CurrentRow() == Row() && (engine.RowChanged() || engine.IsEditing()));
+  }
   bool IsAmount() const { return isValid() && Described().kind == ColumnKind::Number; }
-  bool Editable() const { return isValid() && !IsButton() && !Described().locked && view_->isEnabled(); }
+  bool Editable() const {
+    return isValid() && Described().kind != ColumnKind::Button && !Described().locked && view_->isEnabled();
+  }
   bool IsCurrent() const {
     const platform::GridEngine& engine = view_->Engine();
     return engine.CurrentRow() == Row() && engine.CurrentColumn() == column_;

@@ -1,6 +1,6 @@
 #include "zenta/qt/toolkit/qt_date_edit.h"
 
-#include "zenta/qt/toolkit/accessible_date.h"
+#include "zenta/qt/toolkit/masked_date_line.h"
 #include "zenta/qt/toolkit/ui_text.h"
 
 #include <QCalendarWidget>
@@ -17,27 +17,6 @@
 namespace zenta::qt {
 
 namespace {
-// QLineEdit moves the caret to the first blank of a masked field on Tab; this one selects the
-// whole date instead, so that typing replaces it.
-class MaskedDateLine : public QLineEdit {
- public:
-  explicit MaskedDateLine(QWidget* parent) : QLineEdit(parent) { setInputMask("9999/99/99;_"); }
-
- protected:
-  void focusInEvent(QFocusEvent* event) override {
-    QLineEdit::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    if (IsTransientFocusChange(reason)) return;
-    if (reason != Qt::MouseFocusReason) {
-      selectAll();
-    } else if (displayText() == ToQString(std::string(formats::kDateMask))) {
-      // An empty field starts at its first digit, not where the click landed; the press that
-      // gave the focus places the caret after this.
-      QTimer::singleShot(0, this, [this] { setCursorPosition(0); });
-    }
-  }
-};
-
 bool IsDateKey(const QKeyEvent& key) {
   return key.key() == Qt::Key_F2 || key.key() == Qt::Key_F3 || key.key() == Qt::Key_F4 ||
          (key.key() == Qt::Key_Down && (key.modifiers() & Qt::AltModifier));
@@ -47,7 +26,6 @@ bool IsDateKey(const QKeyEvent& key) {
 QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
     : QWidget(parent), QtWidgetBase(*this, definition), editor_(new MaskedDateLine(this)),
       button_(new QToolButton(this)), popup_(new QFrame(this, Qt::Popup)), calendar_(new QCalendarWidget(popup_)) {
-  InstallAccessibleDates();
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
