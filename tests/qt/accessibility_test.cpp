@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -232,21 +233,59 @@ class AccessibilityTest : public QObject {
   }
 
   void dateFieldsReadAsDatesAndNeverAsTheirSlashes() {
-    auto* details = testing::ShowInHostWindow<PmtDetails>(window_);
+    QLineEdit* next = nullptr;
+    auto* details = testing::ShowInHostWindow<PmtDetails>(window_, &next);
     QVERIFY(details);
     QAccessibleInterface* root = QAccessible::queryAccessibleInterface(details);
+    auto focus = [](QAccessibleInterface* node) {
+      node->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+      testing::Settle();
+    };
     QAccessibleInterface* date = Find(root, QAccessible::EditableText, "Invoice Date");
     QVERIFY(date);
     QCOMPARE(date->text(QAccessible::Value), QString());
     QCOMPARE(date->textInterface()->characterCount(), 0);
     QVERIFY(Find(root, QAccessible::Button, "Calendar (F4)"));
 
+    focus(date);
     date->editableTextInterface()->replaceText(0, 0, "2026/11");
     QCOMPARE(date->text(QAccessible::Value), QString("2026/11/__"));
     date->editableTextInterface()->replaceText(0, date->textInterface()->characterCount(), "2026/11/20");
     QCOMPARE(date->text(QAccessible::Value), QString("2026/11/20"));
     QCOMPARE(date->textInterface()->text(5, 7), QString("11"));
+    focus(QAccessible::queryAccessibleInterface(next));
     QCOMPARE(details->InvoiceDate(), QDate(2026, 11, 20));
+
+    // Away from the focus the field is left at once: a partial date is refused, and said so.
+    date->editableTextInterface()->replaceText(0, date->textInterface()->characterCount(), "2026/1");
+    QCOMPARE(date->text(QAccessible::Value), QString("2026/11/20"));
+    QCOMPARE(date->text(QAccessible::Description), QString("Not a date: the previous date was kept."));
+  }
+
+  // A reader's edit of an amount field is typing: cents without a ".", the field's limits.
+  void amountFieldsTakeWhatAReaderTypes() {
+    QLineEdit* next = nullptr;
+    auto* payment = testing::ShowInHostWindow<StdPayment>(window_, &next);
+    QVERIFY(payment);
+    QAccessibleInterface* amount =
+        Find(QAccessible::queryAccessibleInterface(payment), QAccessible::EditableText, "Payment Amount");
+    QVERIFY(amount);
+    QVERIFY(amount->editableTextInterface());
+    // With the focus it is typing in progress; the rule runs on leaving.
+    amount->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    amount->editableTextInterface()->replaceText(0, amount->textInterface()->characterCount(), "1250");
+    QCOMPARE(amount->textInterface()->text(0, 4), QString("1250"));
+    QAccessible::queryAccessibleInterface(next)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    testing::Settle();
+    QCOMPARE(payment->PaymentAmountCurrency(), Currency::FromText("12.50"));
+    QCOMPARE(amount->text(QAccessible::Value), QString("12.50"));
+    // Away from the focus the field is left at once.
+    amount->editableTextInterface()->replaceText(0, amount->textInterface()->characterCount(), "990");
+    QCOMPARE(amount->text(QAccessible::Value), QString("9.90"));
+    amount->valueInterface()->setCurrentValue(3.5);
+    QCOMPARE(payment->PaymentAmountCurrency(), Currency::FromText("3.50"));
+    amount->editableTextInterface()->replaceText(0, 4, "1234567890");  // ten digits: refused
+    QCOMPARE(payment->PaymentAmountCurrency(), Currency::FromText("3.50"));
   }
 
   // The whole invoice-and-split flow, done and read back through QAccessible only.

@@ -99,15 +99,7 @@ class AccessibleDateLine : public QAccessibleWidget,
   // The date field the edit sits in; it may still be under construction when first asked.
   const QWidget* Field() const { return dynamic_cast<const QtDateEdit*>(editor_->parentWidget()); }
   void Type(const QString& text) {
-    if (editor_->isReadOnly() || !editor_->isEnabled()) return;
-    // Only the digits: the mask places its own slashes.
-    QString digits;
-    for (QChar c : text) {
-      if (c.isDigit()) digits += c;
-    }
-    editor_->setText(digits);
-    editor_->setModified(true);
-    emit editor_->textEdited(editor_->text());
+    if (auto* field = dynamic_cast<QtDateEdit*>(editor_->parentWidget())) field->TypeOver(text);
   }
 
   MaskedDateLine* editor_;

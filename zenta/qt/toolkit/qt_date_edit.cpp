@@ -99,6 +99,21 @@ void QtDateEdit::Leave() {
   if (on_focus_lost_) on_focus_lost_();
 }
 
+void QtDateEdit::TypeOver(const QString& text) {
+  if (editor_->isReadOnly() || !isEnabled()) return;
+  QString digits;
+  for (QChar c : text) {
+    if (c.isDigit()) digits += c;  // the mask places its own slashes
+  }
+  editor_->setText(digits);
+  SetRefused(false);
+  if (editor_->hasFocus()) {
+    editor_->setModified(true);
+  } else {
+    Leave();
+  }
+}
+
 void QtDateEdit::SetRefused(bool refused) {
   if (refused == refused_) return;
   if (refused) tooltip_ = toolTip();
