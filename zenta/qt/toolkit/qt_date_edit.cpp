@@ -8,7 +8,6 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
