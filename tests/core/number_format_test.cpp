@@ -67,6 +67,36 @@ TEST(NumberFormat, DoublesFormatAsWrittenNotAsTheirBinaryNeighbour) {
   EXPECT_EQ(FormatNumber(std::nan(""), formats::kTotal), "NaN");
 }
 
+struct LocalizeCase {
+  const char* text;
+  const char* group;
+  const char* expected;
+};
+
+class LocalizedAmount : public testing::TestWithParam<LocalizeCase> {};
+
+// French Canada: "," for the point, a no-break space between thousands.
+TEST_P(LocalizedAmount, GroupsThousandsAndSwapsThePointOfAmountsOnly) {
+  const auto& c = GetParam();
+  EXPECT_EQ(LocalizeAmount(c.text, ",", c.group), c.expected) << c.text;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LocalizedAmount,
+    testing::Values(LocalizeCase{"1234.56", "\u00a0", "1\u00a0234,56"}, LocalizeCase{"123.00", "\u00a0", "123,00"},
+                    LocalizeCase{"-1234567.5", "\u00a0", "-1\u00a0234\u00a0567,5"},
+                    LocalizeCase{"123456", "\u00a0", "123\u00a0456"}, LocalizeCase{"1000.00", "", "1000,00"},
+                    LocalizeCase{"0.00", "\u00a0", "0,00"}, LocalizeCase{".5", "\u00a0", ",5"},
+                    // Grouping the controls wrote themselves follows the locale too.
+                    LocalizeCase{"-9,999,999.99", "\u00a0", "-9\u00a0999\u00a0999,99"},
+                    LocalizeCase{"922337203685477.58", "\u00a0", "922\u00a0337\u00a0203\u00a0685\u00a0477,58"},
+                    // Not amounts: left exactly as they are.
+                    LocalizeCase{"Total Expense", "\u00a0", "Total Expense"}, LocalizeCase{"", "\u00a0", ""},
+                    LocalizeCase{"-", "\u00a0", "-"}, LocalizeCase{".", "\u00a0", "."},
+                    LocalizeCase{"1.2.", "\u00a0", "1.2."}, LocalizeCase{"12.50 CAD", "\u00a0", "12.50 CAD"},
+                    LocalizeCase{",123", "\u00a0", ",123"}, LocalizeCase{"123,", "\u00a0", "123,"},
+                    LocalizeCase{"--5", "\u00a0", "--5"}, LocalizeCase{"2026/11/20", "\u00a0", "2026/11/20"}));
+
 TEST(RoundHalfEven, SendsAnExactHalfToTheEvenDigit) {
   EXPECT_EQ(RoundHalfEven(123.455, 2), 123.46);
   EXPECT_EQ(RoundHalfEven(123.465, 2), 123.46);

@@ -107,12 +107,12 @@ class PaymentDetailsTest : public QObject {
     QCOMPARE(payment_->PaymentAmount(), Money("50"));
   }
 
-  void frenchCanadaShowsGridAmountsWithTheDecimalComma() {
+  void frenchCanadaShowsGridAmountsWithTheDecimalCommaAndGroupedThousands() {
     payment_->setLocale(QLocale(QLocale::French, QLocale::Canada));
     payment_->SetPaymentAmount(Money("1150.5"));
     auto* view = qobject_cast<QAbstractItemView*>(Grid());
     QVERIFY(view);
-    QCOMPARE(view->model()->index(0, 0).data().toString(), QString("1150,50"));
+    QCOMPARE(view->model()->index(0, 0).data().toString(), QString("1\u00a0150,50"));
     QCOMPARE(payment_->PaymentAmount(), Money("1150.5"));
   }
 

@@ -156,6 +156,31 @@ std::string FormatNullable(const std::optional<Currency>& value, std::string_vie
   return sections.size() > 3 ? std::string(sections[3]) : std::string();
 }
 
+std::string LocalizeAmount(std::string_view text, std::string_view decimal_point, std::string_view group_separator) {
+  auto digit = [](char c) { return c >= '0' && c <= '9'; };
+  std::size_t i = text.size() > 0 && text[0] == '-' ? 1 : 0;
+  const std::size_t integer_start = i;
+  std::string integer;
+  for (; i < text.size() && (digit(text[i]) || text[i] == ','); ++i) {
+    if (digit(text[i])) integer += text[i];
+  }
+  // A grouping comma may only stand between digits.
+  if (!integer.empty() && (!digit(text[integer_start]) || text[i - 1] == ',')) return std::string(text);
+  std::string fraction;
+  const bool point = i < text.size() && text[i] == '.';
+  if (point) {
+    for (++i; i < text.size() && digit(text[i]); ++i) fraction += text[i];
+  }
+  if (i != text.size() || (integer.empty() && fraction.empty())) return std::string(text);
+  std::string out(text.substr(0, integer_start));
+  for (std::size_t d = 0; d < integer.size(); ++d) {
+    if (d > 0 && (integer.size() - d) % 3 == 0) out += group_separator;
+    out += integer[d];
+  }
+  if (point) out.append(decimal_point).append(fraction);
+  return out;
+}
+
 double RoundHalfEven(double value, int places) {
   auto decimal = detail::DecimalFromDouble(value);
   if (!decimal || places < 0 || places > 15) return value;

@@ -21,6 +21,12 @@ std::string FormatNumber(Currency value, std::string_view pattern);
 std::string FormatNumber(double value, std::string_view pattern);
 std::string FormatNullable(const std::optional<Currency>& value, std::string_view pattern);
 
+// An amount as FormatNumber writes it ("-1234567.50", "1,234.50") written a locale's way: the
+// point as `decimal_point` and the integer digits grouped by threes with `group_separator`, or
+// not grouped when it is empty ("-1 234 567,50"). Anything else (a caption, a half-typed "1.2.")
+// comes back unchanged.
+std::string LocalizeAmount(std::string_view text, std::string_view decimal_point, std::string_view group_separator);
+
 // Half to even at `places` decimals, computed on the decimal digits of the value's shortest
 // round-trip text so that 2.675 rounds as written, not as its binary neighbour.
 double RoundHalfEven(double value, int places);

@@ -128,6 +128,11 @@ void GridEngine::SetColumn(int column, GridColumn description) {
   const_cast<GridColumn&>(Column(column)) = std::move(description);
   view_.ColumnsChanged();
 }
+void GridEngine::SetCaption(const std::string& caption) {
+  caption_ = caption;
+  view_.ColumnsChanged();
+}
+
 void GridEngine::SetColumnCaption(int column, const std::string& caption) {
   const_cast<GridColumn&>(Column(column)).caption = caption;
   view_.ColumnsChanged();

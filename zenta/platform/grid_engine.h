@@ -114,6 +114,11 @@ class GridEngine {
   int BookmarkAt(int display_row) const { return FirstRow() + display_row; }
   bool IsAddNewRow(int row) const;
 
+  // What the grid holds, in words ("Invoices"): toolkits name the grid with it for assistive
+  // tools; nothing shows it.
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(const std::string& caption);
+
   // Columns.
   int ColumnCount() const { return static_cast<int>(columns_.size()); }
   const GridColumn& Column(int column) const;
@@ -211,6 +216,7 @@ class GridEngine {
 
   GridView& view_;
   GridHandlers handlers_;
+  std::string caption_;
   std::vector<GridColumn> columns_;
   GridColors colors_;
   std::shared_ptr<Array2D> bound_array_;

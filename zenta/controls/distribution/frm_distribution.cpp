@@ -94,6 +94,7 @@ FrmDistribution::FrmDistribution(platform::HostServices& host, std::unique_ptr<p
   surface_->SetCancelButton(cancel_);
 
   platform::GridEngine& engine = grid_.Engine();
+  engine.SetCaption("G/L Distribution");
   platform::GridColumn marker;
   marker.caption = "Del";
   marker.kind = platform::ColumnKind::Button;

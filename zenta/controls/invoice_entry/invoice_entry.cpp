@@ -144,6 +144,7 @@ InvoiceEntry::~InvoiceEntry() {
 void InvoiceEntry::BuildColumns() {
   platform::GridEngine& engine = grid_.Engine();
   using platform::ColumnKind;
+  engine.SetCaption("Invoices");
   engine.SetColumn(Col::kIdColumn, Described("ID", ColumnKind::Number, 0, false));
   engine.SetColumn(Col::kDateColumn, Described("Invoice Date", ColumnKind::Date, 1200));
   engine.SetColumn(Col::kNumberColumn, Described("Invoice Number / Description", ColumnKind::Text, 2400));
@@ -161,6 +162,7 @@ void InvoiceEntry::BuildColumns() {
 void InvoiceEntry::BuildLineColumns() {
   platform::GridEngine& engine = distribution_grid_.Engine();
   using platform::ColumnKind;
+  engine.SetCaption("G/L Distribution");
   using Lines = InvoiceLinesSource;
   engine.SetColumn(Lines::kIdColumn, Described("ID", ColumnKind::Number, 0, false));
   engine.SetColumn(Lines::kAccountColumn, Described("G/L Account", ColumnKind::Text, 1500));

@@ -85,6 +85,7 @@ PaymentDetails::~PaymentDetails() {
 void PaymentDetails::BuildColumns() {
   platform::GridEngine& engine = grid_.Engine();
   using platform::ColumnKind;
+  engine.SetCaption("Payment Amount");
   engine.SetColumn(kPayAmtColumn, Described("Payment Amount", ColumnKind::Number, 1335));
   engine.SetColumn(kGSTColumn, Described("Refundable GST/HST", ColumnKind::Number, 1695));
   engine.SetColumn(kNetExpenseColumn, Described("Net Expense", ColumnKind::Number, 1335));

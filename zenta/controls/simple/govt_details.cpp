@@ -29,6 +29,7 @@ GovtDetails::Widgets GovtDetails::Build(platform::ControlSurface& surface) {
   auto& due = surface.AddDateEdit(
       {"dtDueDate", {60, 1860, 1740, 300}, "Enter the date on which the payment is due"});
   auto& items = surface.AddGrid({"grItems", {60, 2220, 1740, 1200}}, 2);
+  items.Engine().SetCaption("Line Items");
   surface.AddLabel({"lblComments", {60, 3480, 1740, 240}}, "Comments / Contact");
   auto& comments = surface.AddTextBox(
       {"txtComments", {60, 3720, 1740, 300}, "Enter applicable comments / contact information"});

@@ -2,6 +2,7 @@
 
 #include <QAccessibleWidget>
 #include <QFontMetrics>
+#include <algorithm>
 
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_number_edit.h"
@@ -9,13 +10,17 @@
 namespace zenta::qt {
 namespace {
 
-class AccessibleAmount : public QAccessibleWidget, public QAccessibleValueInterface, public QAccessibleTextInterface {
+class AccessibleAmount : public QAccessibleWidget,
+                         public QAccessibleValueInterface,
+                         public QAccessibleTextInterface,
+                         public QAccessibleEditableTextInterface {
  public:
   explicit AccessibleAmount(QtNumberEdit* edit) : QAccessibleWidget(edit, QAccessible::EditableText), edit_(edit) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
     if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+    if (type == QAccessible::EditableTextInterface) return static_cast<QAccessibleEditableTextInterface*>(this);
     return QAccessibleWidget::interface_cast(type);
   }
 
@@ -33,12 +38,16 @@ class AccessibleAmount : public QAccessibleWidget, public QAccessibleValueInterf
     return edit_->Value() ? LocalAmountText(ToQString(edit_->DisplayText()), edit_->locale()) : QString();
   }
 
-  // Value: the amount, read-only here; it changes through typing, where the field's rules apply.
+  // Value: the amount. A new one is typed with its two decimals, so the field's rules apply.
   QVariant currentValue() const override {
     const auto value = edit_->Value();
     return value ? QVariant(value->ToDouble()) : QVariant();
   }
-  void setCurrentValue(const QVariant&) override {}
+  void setCurrentValue(const QVariant& value) override {
+    bool number = false;
+    const double amount = value.toDouble(&number);
+    if (number) edit_->TypeOver(ToQString(FormatNumber(amount, formats::kAmount)));
+  }
   QVariant maximumValue() const override { return {}; }
   QVariant minimumValue() const override { return {}; }
   QVariant minimumStepSize() const override { return 0.01; }
@@ -75,6 +84,17 @@ class AccessibleAmount : public QAccessibleWidget, public QAccessibleValueInterf
   QString attributes(int offset, int* start, int* end) const override {
     *start = *end = offset;
     return {};
+  }
+
+  // Editable text: the edit is made on the amount as typed (digits and "."), then typed over
+  // the field.
+  void deleteText(int start, int end) override { replaceText(start, end, QString()); }
+  void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
+  void replaceText(int start, int end, const QString& text) override {
+    QString typed = ToQString(edit_->Text());
+    start = std::clamp(start, 0, static_cast<int>(typed.size()));
+    end = std::clamp(end, start, static_cast<int>(typed.size()));
+    edit_->TypeOver(typed.replace(start, end - start, text));
   }
 
  private:

@@ -81,6 +81,8 @@ QString GridEngineModel::ShownText(int row, int column) const {
   if (engine_.Column(column).kind == platform::ColumnKind::Button) return UiText(appearance.text);
   QString text = ToQString(appearance.text);
   if (engine_.Column(column).kind != platform::ColumnKind::Number) return text;
+  // The cell being typed in shows the keys as typed.
+  if (engine_.IsEditing() && engine_.CurrentRow() == row && engine_.CurrentColumn() == column) return text;
   // The view's locale, which a host may set on the control.
   const auto* view = qobject_cast<const QWidget*>(QObject::parent());
   return LocalAmountText(text, view ? view->locale() : QLocale());

@@ -1,5 +1,7 @@
 #include "zenta/qt/toolkit/qt_conversions.h"
 
+#include "zenta/core/number_format.h"
+
 #include <algorithm>
 #include <cmath>
 #include <exception>
@@ -46,10 +48,11 @@ std::optional<Currency> CurrencyFromQString(const QString& text) {
 }
 
 QString LocalAmountText(const QString& text, const QLocale& locale) {
+  // A locale that writes "." as its point reads the amounts as the controls write them.
   const QString point = locale.decimalPoint();
-  if (point == u"." || !CurrencyFromQString(QString(text).remove(u',').trimmed())) return text;
-  QString shown = text;
-  return shown.replace(u'.', point);
+  if (point == u".") return text;
+  const QString group = locale.numberOptions().testFlag(QLocale::OmitGroupSeparator) ? QString() : locale.groupSeparator();
+  return ToQString(LocalizeAmount(FromQString(text), FromQString(point), FromQString(group)));
 }
 
 QDate ToQDate(Date date) {

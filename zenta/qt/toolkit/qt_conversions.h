@@ -35,8 +35,10 @@ QString ToQString(Currency value);
 // Invariant text only ("." is the point); nullopt for anything else or out of range.
 std::optional<Currency> CurrencyFromQString(const QString& text);
 
-// An amount as the payer reads it under `locale`: "12.50" shows as "12,50" in French Canada.
-// Text that is not a plain amount (a caption, "Total") is returned unchanged.
+// An amount as the payer reads it under `locale`: "1234.50" shows as "1 234,50" in French
+// Canada (grouped with the locale's separator unless its number options omit it), and as
+// written under a locale whose point is ".". Text that is not a plain amount (a caption,
+// "Total") is returned unchanged. For display only: what is typed and stored keeps ".".
 QString LocalAmountText(const QString& text, const QLocale& locale);
 
 QDate ToQDate(Date date);

@@ -1,5 +1,6 @@
 #include "zenta/qt/toolkit/qt_date_edit.h"
 
+#include "zenta/qt/toolkit/masked_date_line.h"
 #include "zenta/qt/toolkit/ui_text.h"
 
 #include <QCalendarWidget>
@@ -7,7 +8,6 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -16,27 +16,6 @@
 namespace zenta::qt {
 
 namespace {
-// QLineEdit moves the caret to the first blank of a masked field on Tab; this one selects the
-// whole date instead, so that typing replaces it.
-class MaskedDateLine : public QLineEdit {
- public:
-  explicit MaskedDateLine(QWidget* parent) : QLineEdit(parent) { setInputMask("9999/99/99;_"); }
-
- protected:
-  void focusInEvent(QFocusEvent* event) override {
-    QLineEdit::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    if (IsTransientFocusChange(reason)) return;
-    if (reason != Qt::MouseFocusReason) {
-      selectAll();
-    } else if (displayText() == ToQString(std::string(formats::kDateMask))) {
-      // An empty field starts at its first digit, not where the click landed; the press that
-      // gave the focus places the caret after this.
-      QTimer::singleShot(0, this, [this] { setCursorPosition(0); });
-    }
-  }
-};
-
 bool IsDateKey(const QKeyEvent& key) {
   return key.key() == Qt::Key_F2 || key.key() == Qt::Key_F3 || key.key() == Qt::Key_F4 ||
          (key.key() == Qt::Key_Down && (key.modifiers() & Qt::AltModifier));
@@ -58,6 +37,8 @@ QtDateEdit::QtDateEdit(QWidget* parent, const platform::WidgetSpec& definition)
   button_->setArrowType(Qt::DownArrow);
   button_->setFocusPolicy(Qt::NoFocus);
   button_->setToolTip(UiText("Calendar (F4)"));
+  // A button with an arrow and no text would otherwise have no name to read.
+  button_->setAccessibleName(UiText("Calendar (F4)"));
   connect(editor_, &QLineEdit::textEdited, this, [this] { SetRefused(false); });
   connect(button_, &QToolButton::clicked, this, [this] { OpenCalendar(); });
 
@@ -115,6 +96,21 @@ void QtDateEdit::Leave() {
     SetRefused(true);
   }
   if (on_focus_lost_) on_focus_lost_();
+}
+
+void QtDateEdit::TypeOver(const QString& text) {
+  if (editor_->isReadOnly() || !isEnabled()) return;
+  QString digits;
+  for (QChar c : text) {
+    if (c.isDigit()) digits += c;  // the mask places its own slashes
+  }
+  editor_->setText(digits);
+  SetRefused(false);
+  if (editor_->hasFocus()) {
+    editor_->setModified(true);
+  } else {
+    Leave();
+  }
 }
 
 void QtDateEdit::SetRefused(bool refused) {

@@ -38,6 +38,10 @@ class QtDateEdit : public QWidget, public QtWidgetBase<platform::DateEdit> {
   QWidget& CalendarTitleBar();
   void OpenCalendar();
   bool CalendarOpen() const;
+  // Puts the digits of `text` through the mask as if typed over the whole field. Away from the
+  // focus the field is then left at once, so its rules run as after typing; with the focus they
+  // run when the user leaves. For assistive tools.
+  void TypeOver(const QString& text);
   // The typed text was refused on leaving; shown as a tinted field and in the tooltip.
   bool Refused() const { return refused_; }
 

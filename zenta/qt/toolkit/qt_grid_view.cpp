@@ -1,8 +1,6 @@
 #include "zenta/qt/toolkit/qt_grid_view.h"
 
-#include "zenta/qt/toolkit/qt_cell_action_button.h"
-#include "zenta/qt/toolkit/qt_offer_list.h"
-
+#include <QAccessible>
 #include <QHeaderView>
 #include <algorithm>
 #include <QKeyEvent>
@@ -12,6 +10,9 @@
 #include <QScrollBar>
 
 #include "zenta/core/utf8.h"
+#include "zenta/qt/toolkit/qt_cell_action_button.h"
+#include "zenta/qt/toolkit/qt_offer_list.h"
+#include "zenta/qt/toolkit/accessible_grid.h"
 #include "zenta/qt/toolkit/grid_engine_model.h"
 #include "zenta/qt/toolkit/qt_grid_delegate.h"
 #include "zenta/qt/toolkit/ui_text.h"
@@ -61,6 +62,7 @@ class GridFooter : public QWidget {
 QtGridView::QtGridView(QWidget* parent, const platform::WidgetSpec& definition, int column_count)
     : QTableView(parent), QtWidgetBase(*this, definition),
       engine_(std::make_unique<platform::GridEngine>(*this, column_count)) {
+  InstallAccessibleGrids();
   model_ = new GridEngineModel(this, *engine_);
   setModel(model_);
   setItemDelegate(new GridCellDelegate(this, *engine_));
@@ -293,6 +295,23 @@ void QtGridView::focusInEvent(QFocusEvent* event) {
 void QtGridView::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
   if (!IsTransientFocusChange(event->reason())) engine_->FocusLost();
+}
+
+void QtGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  // QTableView would number the cell counting hidden columns and the header row its own way.
+  QAbstractItemView::currentChanged(current, previous);
+  if (!QAccessible::isActive() || !hasFocus()) return;
+  const int child = AccessibleChildIndex(*this, current);
+  if (child < 0) return;
+  QAccessibleEvent event(this, QAccessible::Focus);
+  event.setChild(child);
+  QAccessible::updateAccessibility(&event);
+}
+
+void QtGridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  // The selection is the current cell, announced above; QTableView's events would number it
+  // counting hidden columns.
+  QAbstractItemView::selectionChanged(selected, deselected);
 }
 
 bool QtGridView::focusNextPrevChild(bool next) { return QWidget::focusNextPrevChild(next); }

@@ -52,6 +52,9 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   bool event(QEvent* event) override;
+  // Tells assistive tools of the new current cell by its place among the shown columns.
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void updateGeometries() override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -60,9 +63,6 @@ class QtGridView : public QTableView, public QtWidgetBase<platform::Grid>, publi
   void ApplyColors();
   void FitColumns();
   bool HasFooter() const;
-  // PageUp and PageDown the engine leaves alone: the current row moves by a screenful.
-
-
   GridEngineModel* model_;
   GridFooter* footer_ = nullptr;
   OfferList* offers_ = nullptr;  // made on first use

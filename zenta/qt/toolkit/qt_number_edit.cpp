@@ -146,6 +146,21 @@ void QtNumberEdit::TypeCharacter(char32_t character) {
   }
 }
 
+bool QtNumberEdit::TypeOver(const QString& text) {
+  if (isReadOnly() || !isEnabled()) return false;
+  int position = static_cast<int>(text.size());
+  const std::optional<QString> accepted = AcceptableEdit(text, position);
+  if (!accepted) return false;
+  TypedTextChanged(*accepted);
+  Show();
+  if (hasFocus()) {
+    setModified(true);
+  } else if (on_focus_lost_) {
+    on_focus_lost_();
+  }
+  return true;
+}
+
 void QtNumberEdit::TypedTextChanged(const QString& text) {
   raw_ = FromQString(text);
   value_ = CurrencyFromQString(text);

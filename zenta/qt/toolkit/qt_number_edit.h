@@ -50,6 +50,10 @@ class QtNumberEdit : public QLineEdit, public QtWidgetBase<platform::NumberEdit>
   std::optional<QString> AcceptableEdit(const QString& text, int& position) const;
   // Types one character that has passed every filter already, as at the caret.
   void TypeCharacter(char32_t character);
+  // Puts `text` in the field as if typed over all of it (false when the edit format refuses
+  // it). Away from the focus the field is then left at once, so the focus-lost rule runs as
+  // after typing; with the focus it runs when the user leaves. For assistive tools.
+  bool TypeOver(const QString& text);
 
  protected:
   bool event(QEvent* event) override;

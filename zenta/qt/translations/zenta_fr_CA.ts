@@ -315,5 +315,17 @@
         <source>Email</source>
         <translation>Courriel</translation>
     </message>
+    <message>
+        <source>Invoices</source>
+        <translation>Factures</translation>
+    </message>
+    <message>
+        <source>G/L Distribution</source>
+        <translation>Ventilation du grand livre</translation>
+    </message>
+    <message>
+        <source>Line Items</source>
+        <translation>Postes</translation>
+    </message>
 </context>
 </TS>
