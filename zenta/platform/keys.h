@@ -13,6 +13,7 @@ inline constexpr int kEscape = 27;
 inline constexpr int kF2 = 113;
 inline constexpr int kF3 = 114;
 inline constexpr int kF4 = 115;
+inline constexpr int kInsert = 45;
 }  // namespace keys
 
 enum ShiftState : int { kNoShift = 0, kShift = 1, kCtrl = 2, kAlt = 4 };

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +18,7 @@
 #include "zenta/core/ole_color.h"
 #include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
+#include "zenta/entry/undo_history.h"
 #include "zenta/platform/control_surface.h"
 #include "zenta/platform/grid.h"
 #include "zenta/platform/host_services.h"
@@ -143,6 +146,21 @@ class InvoiceEntry {
   bool ForeignMode() const;
   const std::vector<std::string>& ParsedLines() const { return parsed_lines_; }
 
+  // Bulk entry (Ctrl+V or Shift+Insert, Ctrl+C, Ctrl+Z, Ctrl+Y or Ctrl+Shift+Z on the list).
+  // Pasted rows of tab-separated or comma-separated text meet the checks and host vetoes of
+  // typed ones; refused rows are left out and listed in one message, the others added as one
+  // step. Copy puts the current row on the clipboard. A stored row edit, a deleted row, a paste
+  // and an accepted split are one step each; Clear, a mode switch and the host's own changes
+  // to the list forget them.
+  void PasteText(const std::string& text);
+  void CopyCurrentRow();
+  bool Undo();
+  bool Redo();
+  bool CanUndo() const { return history_.CanUndo(); }
+  bool CanRedo() const { return history_.CanRedo(); }
+  // Runs whenever CanUndo or CanRedo may have changed.
+  void OnUndoStateChanged(std::function<void()> listener) { history_.OnChanged(std::move(listener)); }
+
   // Persistence: defaults, or the eleven stored keys, applied in load order.
   void InitProperties();
   void ReadProperties(const platform::PropertyBag& bag);
@@ -200,6 +218,12 @@ class InvoiceEntry {
   bool CheckCurrentRow(std::string& reason, bool& incomplete, int& column);
   bool Fail(std::string& InvalidReason, const std::string& reason, int column);
 
+  friend class InvoiceClipboard;
+  // `before` is the list as it was before the payer's step that just ended.
+  void RecordStep(InvoiceStore before);
+  void ShowRestoredList();
+  bool RunEditCommand(platform::KeyDown& key);
+
   platform::ControlSurface& surface_;
   platform::HostServices& host_;
   LibraryContext& context_;
@@ -218,6 +242,8 @@ class InvoiceEntry {
   bool number_refused_ = false;
   bool amount_refused_ = false;
   std::vector<std::string> parsed_lines_;
+  entry::UndoHistory history_;
+  std::optional<InvoiceStore> step_before_;
   // Last, so an open window closes before anything else of the control goes.
   DistributionOpener opener_{context_};
   platform::Lifetime lifetime_;
