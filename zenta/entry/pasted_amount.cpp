@@ -52,20 +52,29 @@ std::optional<Currency> ParsePastedAmount(std::string_view text, AmountDigitLimi
     if (once && after <= static_cast<std::size_t>(limits.decimal_digits)) mark = only;
   }
 
+  const std::string integer = body.substr(0, mark == std::string::npos ? body.size() : mark);
+  const std::string fraction = mark == std::string::npos ? std::string() : body.substr(mark + 1);
+  if (fraction.find_first_not_of("0123456789") != std::string::npos) return std::nullopt;
+  // Grouping: one character other than the mark, every group after the first of three digits.
+  const auto separator_at = integer.find_first_of(",.");
   std::string whole;
-  std::string fraction;
-  for (std::size_t i = 0; i < body.size(); ++i) {
-    const char c = body[i];
-    if (i == mark) continue;
-    if (c >= '0' && c <= '9') {
-      (mark != std::string::npos && i > mark ? fraction : whole) += c;
-    } else if ((c == ',' || c == '.') && (mark == std::string::npos || i < mark)) {
-      // Grouping: a digit on each side.
-      if (i == 0 || i + 1 >= body.size() || body[i + 1] < '0' || body[i + 1] > '9') return std::nullopt;
-    } else {
-      return std::nullopt;
+  if (separator_at == std::string::npos) {
+    whole = integer;
+  } else {
+    const char separator = integer[separator_at];
+    if (mark != std::string::npos && body[mark] == separator) return std::nullopt;
+    std::size_t group_start = 0;
+    for (std::size_t i = 0; i <= integer.size(); ++i) {
+      if (i < integer.size() && integer[i] != separator) continue;
+      const std::size_t length = i - group_start;
+      if (group_start == 0 ? (length < 1 || length > 3) : length != 3) return std::nullopt;
+      group_start = i + 1;
+    }
+    for (char c : integer) {
+      if (c != separator) whole += c;
     }
   }
+  if (whole.find_first_not_of("0123456789") != std::string::npos) return std::nullopt;
   if (whole.empty() && fraction.empty()) return std::nullopt;
   const auto significant = whole.find_first_not_of('0');
   const std::size_t whole_digits = significant == std::string::npos ? 0 : whole.size() - significant;
