@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableView>
@@ -197,6 +199,38 @@ void DemoSession::PlayInvoiceList() {
                 .arg(valid ? "True" : "False", reason, incomplete ? "True" : "False");
 }
 
+void DemoSession::PlayInvoicePaste() {
+  // Three more invoices copied from the payer's spreadsheet; one is deleted by mistake and
+  // Ctrl+Z brings it back.
+  auto& invoices = window_.Invoices();
+  QWidget* grid = invoices.Surface().FindQWidget("grInvoices");
+  const QString day = QDate::currentDate().addDays(-2).toString("yyyy/MM/dd");
+  QGuiApplication::clipboard()->setText(day + "\tGas, October\t\"1,130.00\"\t130.00\r\n" +  //
+                                        day + "\tWater\t$56.50\t6.50\r\n" +                 //
+                                        day + "\tInternet\t(22.60)\t-2.60\r\n");
+  const short before = invoices.RowCount();
+  ClickCell(grid, before, 1);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  Shoot("13-invoices-pasted.png");
+  notes_ << QString("Pasted: InvoiceEntry1.RowCount %1 -> %2, TotalAmount = %3")
+                .arg(before)
+                .arg(invoices.RowCount())
+                .arg(qt::ToQString(invoices.TotalAmount()));
+  ClickCell(grid, before + 1, 2);
+  qt::testing::AnswerNextMessage(QMessageBox::Yes);
+  Press(Qt::Key_Delete, Qt::ControlModifier);
+  Shoot("14-pasted-invoice-deleted.png");
+  const short deleted = invoices.RowCount();
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  Shoot("15-deletion-undone.png");
+  notes_ << QString("Ctrl+Z after deleting: RowCount %1 -> %2, InvoiceValues(%3).InvoiceNo = \"%4\"")
+                .arg(deleted)
+                .arg(invoices.RowCount())
+                .arg(before + 2)
+                .arg(invoices.InvoiceValues(static_cast<short>(before + 2)).value("InvoiceNo").toString());
+  if (invoices.RowCount() != before + 3) complete_ = false;
+}
+
 QStringList DemoSession::Play() {
   Settle();
   Shoot("01-empty-screen.png");
@@ -247,6 +281,7 @@ QStringList DemoSession::Play() {
   PlaySplitWithRefusal();
   PlayLockedFields();
   PlayInvoiceList();
+  PlayInvoicePaste();
   return written_;
 }
 

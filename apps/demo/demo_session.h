@@ -43,6 +43,7 @@ class DemoSession {
   void PlaySplitWithRefusal();
   void PlayLockedFields();
   void PlayInvoiceList();
+  void PlayInvoicePaste();
 
   DemoWindow& window_;
   QDir screenshots_;

@@ -224,7 +224,11 @@ void InvoiceEntry::WireGrid() {
     const platform::GridEngine& engine = grid_.Engine();
     const auto current = engine.CurrentRow();
     if (!current || !engine.IsAddNewRow(*current) || store_.Count() < InvoiceStore::kMaxRows) {
-      step_before_ = store_;
+      if (current && engine.IsAddNewRow(*current)) {
+        row_edit_ = RowEdit{true, {}};
+      } else if (current && *current < store_.Count()) {
+        row_edit_ = RowEdit{false, store_.At(*current)};
+      }
       return;
     }
     host_.ShowMessage({kListFull, "Invoice Entry", platform::MessageButtons::Ok, platform::MessageIcon::Information});
@@ -233,8 +237,10 @@ void InvoiceEntry::WireGrid() {
   on.after_update = [this] {
     // The derived columns are worked out now, for the row just stored: the distribution window
     // may open before the posted refresh runs, and the cursor may have moved on by then.
-    if (const auto stored = grid_.Engine().CurrentRow()) DeriveColumns(*stored);
-    if (step_before_) RecordStep(*std::exchange(step_before_, std::nullopt));
+    const auto stored = grid_.Engine().CurrentRow();
+    if (stored) DeriveColumns(*stored);
+    if (row_edit_ && stored && *stored < store_.Count()) RecordRowEdit(*stored, std::move(*row_edit_));
+    row_edit_.reset();
     grid_.Engine().PostMessage(kAfterRowEdit);
   };
   on.before_delete = [this](platform::CancelArgs& args) {
@@ -509,6 +515,7 @@ void InvoiceEntry::Clear() {
   grid_.Engine().CancelEdit();
   store_.Clear();
   step_before_.reset();
+  row_edit_.reset();
   history_.Clear();
   Rebind();
   SetupIPGrid();
@@ -659,10 +666,10 @@ void InvoiceEntry::ShowDistribution() {
     lines.push_back({line->ID, line->GLAccount, line->Amount,
                      at < typed_foreign.size() ? typed_foreign[at] : std::nullopt});
   }
-  InvoiceStore before = store_;
+  const auto* before = store_.Lines(id);
+  RecordSplit(index, before ? *before : std::vector<InvoiceLine>{}, store_.At(index).payment_for);
   store_.SetLines(id, std::move(lines));
   store_.SetPaymentFor(index, Text(dialog.PaymentFor()));
-  RecordStep(std::move(before));
   engine.Refresh();
   ShowCurrentLines(true);
   engine.PostMessage(first ? kRaiseFirstDistribution : kRaiseDistribution);
@@ -1005,6 +1012,47 @@ void InvoiceEntry::RecordStep(InvoiceStore before) {
   auto kept = std::make_shared<InvoiceStore>(std::move(before));
   history_.Push([this, kept] {
     std::swap(store_, *kept);
+    ShowRestoredList();
+  });
+}
+
+void InvoiceEntry::RecordRowEdit(int index, RowEdit edit) {
+  auto kept = std::make_shared<RowEdit>(std::move(edit));
+  history_.Push([this, index, kept] {
+    if (!kept->appended) {
+      InvoiceStore::Row now = store_.At(index);
+      store_.Put(index, std::move(kept->before));
+      kept->before = std::move(now);
+    } else if (index < store_.Count()) {
+      // Undone: the row goes, kept for a redo. Its lines went with a split undone before.
+      kept->before = store_.At(index);
+      kept->before.id = 0;
+      store_.Remove(index);
+    } else {
+      store_.AppendRow({});
+      store_.Put(index, std::move(kept->before));
+    }
+    ShowRestoredList();
+  });
+}
+
+void InvoiceEntry::RecordSplit(int index, std::vector<InvoiceLine> lines, std::string payment_for) {
+  struct Split {
+    std::vector<InvoiceLine> lines;
+    std::string payment_for;
+  };
+  auto kept = std::make_shared<Split>(Split{std::move(lines), std::move(payment_for)});
+  history_.Push([this, index, kept] {
+    // A row typed again by a redo has no identifier yet.
+    store_.EnsureId(index);
+    const std::int16_t id = store_.At(index).id;
+    const auto* now = store_.Lines(id);
+    std::vector<InvoiceLine> current = now ? *now : std::vector<InvoiceLine>{};
+    std::string payment_for_now = store_.At(index).payment_for;
+    store_.SetLines(id, std::move(kept->lines));
+    store_.SetPaymentFor(index, std::move(kept->payment_for));
+    kept->lines = std::move(current);
+    kept->payment_for = std::move(payment_for_now);
     ShowRestoredList();
   });
 }

@@ -219,8 +219,18 @@ class InvoiceEntry {
   bool Fail(std::string& InvalidReason, const std::string& reason, int column);
 
   friend class InvoiceClipboard;
-  // `before` is the list as it was before the payer's step that just ended.
+  // `before` is the whole list as it was before the payer's step that just ended (a deletion
+  // or a paste, which cost as much as the copy already).
   void RecordStep(InvoiceStore before);
+  // A stored row edit keeps only that row: leaving an edited row costs the same whatever the
+  // list's length. A new row is kept as appended.
+  struct RowEdit {
+    bool appended = false;
+    InvoiceStore::Row before;
+  };
+  void RecordRowEdit(int index, RowEdit edit);
+  // An accepted split keeps the row's lines and payment-for text as they were.
+  void RecordSplit(int index, std::vector<InvoiceLine> lines, std::string payment_for);
   void ShowRestoredList();
   bool RunEditCommand(platform::KeyDown& key);
 
@@ -244,6 +254,7 @@ class InvoiceEntry {
   std::vector<std::string> parsed_lines_;
   entry::UndoHistory history_;
   std::optional<InvoiceStore> step_before_;
+  std::optional<RowEdit> row_edit_;
   // Last, so an open window closes before anything else of the control goes.
   DistributionOpener opener_{context_};
   platform::Lifetime lifetime_;
