@@ -107,6 +107,21 @@ TEST_F(InvoicePasteTest, ColumnsMapFromTheCurrentColumnAndBusinessRowsNeedTheirG
   EXPECT_EQ(control.RowCount(), 2);
 }
 
+TEST_F(InvoicePasteTest, ForeignAmountsConvertAsTypedOnesAndStayWithinTheirRange) {
+  control.SetOtherCurrencyCode(Variant(std::string("USD")));
+  control.SetIPCurrency("USD");
+  control.SetCurrencyRate(1.25f);
+  control.SetupIPGrid();
+  host.ExpectMessage(platform::MessageResult::Ok);
+  // The foreign amount is the third column; the rate and Canadian amount are worked out.
+  PasteFromClipboard("2026/03/15\tUS-1\t100.00\n2026/03/15\tUS-2\t10,000,000.00\n");
+  ASSERT_EQ(control.RowCount(), 1);
+  EXPECT_EQ(control.InvoiceValues(1)->CompanyExpense, Money("125"));
+  EXPECT_EQ(control.TotalForeignAmount(), Money("100"));
+  EXPECT_EQ(LastMessage(), std::string("These rows were not pasted:\nRow 2, Invoice Amount (USD): ") +
+                               InvoiceEntry::kForeignRangeText);
+}
+
 TEST_F(InvoicePasteTest, APastePastTheLastInvoiceAddsNothingAndSaysSo) {
   InvoiceStore& store = control.Store();
   for (int i = 0; i < InvoiceStore::kMaxRows - 1; ++i) {
