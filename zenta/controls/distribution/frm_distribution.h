@@ -8,6 +8,7 @@
 #include "zenta/controls/distribution/distribution_model.h"
 #include "zenta/core/currency.h"
 #include "zenta/core/variant.h"
+#include "zenta/entry/undo_history.h"
 #include "zenta/platform/button.h"
 #include "zenta/platform/dialog_surface.h"
 #include "zenta/platform/grid.h"
@@ -62,6 +63,12 @@ class FrmDistribution {
   // lines.
   void CloseAsCancelled() { OnCancel(); }
   void Move(int left, int top) { surface_->Move(left, top); }
+  // Lines pasted from a spreadsheet (Ctrl+V, Shift+Insert), and undo and redo of a paste, a
+  // stored line or a deleted one (Ctrl+Z, Ctrl+Y or Ctrl+Shift+Z) within one showing.
+  void PasteText(const std::string& text);
+  bool Undo();
+  bool Redo();
+
   // For callers that style the grid or propose a first line.
   platform::Grid& Grid() { return grid_; }
   platform::DialogSurface& Surface() { return *surface_; }
@@ -99,6 +106,11 @@ class FrmDistribution {
   platform::Label& amount_label_;
   platform::Label& remaining_label_;
   std::optional<int> deleting_row_;
+  // The lines before the payer's step that is under way, and the steps taken.
+  std::optional<platform::Array2D> lines_before_;
+  entry::UndoHistory history_;
+  void RecordLines(platform::Array2D before);
+  bool RunEditCommand(platform::KeyDown& key);
 };
 
 }  // namespace zenta
