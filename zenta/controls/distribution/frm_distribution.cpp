@@ -430,6 +430,8 @@ bool FrmDistribution::RunEditCommand(platform::KeyDown& key) {
 }
 
 void FrmDistribution::PasteText(const std::string& text) {
+  // An empty clipboard leaves the line being typed as it is.
+  if (text.find_first_not_of(" \t\r\n") == std::string::npos) return;
   platform::GridEngine& engine = grid_.Engine();
   const int column = engine.CurrentColumn();
   if (!engine.CommitRow() || !model_.Table()) return;

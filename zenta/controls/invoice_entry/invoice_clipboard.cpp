@@ -216,6 +216,8 @@ void InvoiceClipboard::ReportRefusals() {
 }
 
 void InvoiceClipboard::Paste(std::string_view text) {
+  const entry::TableRows table = entry::ParseClipboardTable(text);
+  if (std::all_of(table.begin(), table.end(), BlankRow)) return;  // the row being typed stays as it is
   platform::GridEngine& engine = control_.grid_.Engine();
   const platform::Lifetime::Watch alive = control_.lifetime_.Watched();
   // What the payer was typing is stored first, through its own checks.
@@ -228,8 +230,6 @@ void InvoiceClipboard::Paste(std::string_view text) {
   }
   engine.SetCurrentColumn(column);
 
-  const entry::TableRows table = entry::ParseClipboardTable(text);
-  if (table.empty()) return;
   std::vector<int> mapping;
   const bool header = MapColumns(table.front(), mapping);
   std::vector<Candidate> candidates;
