@@ -10,6 +10,8 @@
 #include "tests/qt/host_window.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::qt {
@@ -80,6 +82,35 @@ class InvoiceBulkTest : public QObject {
     QCOMPARE(told, QString("These rows were not pasted:\n"
                            "Row 2, Invoice Number / Description: refused as a duplicate\n"
                            "Row 3, Invoice Amount: not an amount"));
+  }
+
+  void theDistributionWindowTakesPastedLinesAndUndoesThem() {
+    invoices_->AddInvoice(QDate::currentDate(), "A", Money("100"));
+    SetClipboard("5100\t60.00\r\n5200\t40\r\n");
+    bool undone = false;
+    testing::DialogScript paste([&](QtDialogSurface& dialog) {
+      auto* lines = qobject_cast<QTableView*>(dialog.FindQWidget("grTempDistribution"));
+      QVERIFY(ClickCell(lines, 0, 1));
+      const int before = lines->model()->rowCount();
+      PressKey(Qt::Key_V, Qt::ControlModifier);
+      const int pasted = lines->model()->rowCount();
+      PressKey(Qt::Key_Z, Qt::ControlModifier);
+      undone = pasted == before + 2 && lines->model()->rowCount() == before;
+      PressKey(Qt::Key_Y, Qt::ControlModifier);
+      QVERIFY(testing::Click(dialog.FindQWidget("cmdGLAccept")));
+    });
+    invoices_->ShowDistribution();
+    testing::Settle();
+    QVERIFY(paste.Ran());
+    QVERIFY(undone);
+    QStringList lines;
+    for (const QVariant& line : invoices_->InvoiceValues(1).value("Distributions").toList()) {
+      const QVariantMap map = line.toMap();
+      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
+    }
+    QVERIFY2(lines.contains("5100 60") && lines.contains("5200 40"), qPrintable(lines.join(", ")));
+    // The accepted split is a step of the list.
+    QVERIFY(invoices_->undoAction()->isEnabled());
   }
 
   void ctrlCCopiesTheRowForAPasteBack() {
