@@ -3,6 +3,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -199,6 +201,38 @@ void DemoSession::PlayInvoiceList() {
                 .arg(valid ? "True" : "False", reason, incomplete ? "True" : "False");
 }
 
+void DemoSession::PlayInvoicePaste() {
+  // Three more invoices copied from the payer's spreadsheet; one is deleted by mistake and
+  // Ctrl+Z brings it back.
+  auto& invoices = window_.Invoices();
+  QWidget* grid = invoices.Surface().FindQWidget("grInvoices");
+  const QString day = QDate::currentDate().addDays(-2).toString("yyyy/MM/dd");
+  QGuiApplication::clipboard()->setText(day + "\tGas, October\t\"1,130.00\"\t130.00\r\n" +  //
+                                        day + "\tWater\t$56.50\t6.50\r\n" +                 //
+                                        day + "\tInternet\t(22.60)\t-2.60\r\n");
+  const short before = invoices.RowCount();
+  ClickCell(grid, before, 1);
+  Press(Qt::Key_V, Qt::ControlModifier);
+  Shoot("13-invoices-pasted.png");
+  notes_ << QString("Pasted: InvoiceEntry1.RowCount %1 -> %2, TotalAmount = %3")
+                .arg(before)
+                .arg(invoices.RowCount())
+                .arg(qt::ToQString(invoices.TotalAmount()));
+  ClickCell(grid, before + 1, 2);
+  qt::testing::AnswerNextMessage(QMessageBox::Yes);
+  Press(Qt::Key_Delete, Qt::ControlModifier);
+  Shoot("14-pasted-invoice-deleted.png");
+  const short deleted = invoices.RowCount();
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  Shoot("15-deletion-undone.png");
+  notes_ << QString("Ctrl+Z after deleting: RowCount %1 -> %2, InvoiceValues(%3).InvoiceNo = \"%4\"")
+                .arg(deleted)
+                .arg(invoices.RowCount())
+                .arg(before + 2)
+                .arg(invoices.InvoiceValues(static_cast<short>(before + 2)).value("InvoiceNo").toString());
+  if (invoices.RowCount() != before + 3) complete_ = false;
+}
+
 void DemoSession::PlayChartAndTax() {
   // The host shares a small chart of accounts and sets the payer's province. A fourth invoice
   // of 226.00 gets its GST/HST from the rate with F8; in the window that opens, "off" offers
@@ -219,11 +253,11 @@ void DemoSession::PlayChartAndTax() {
   Type("22600");
   Press(Qt::Key_Tab);
   Press(Qt::Key_F8);  // the GST/HST included at Ontario's 13 %
-  Shoot("13-gst-hst-filled.png");
+  Shoot("16-gst-hst-filled.png");
   qt::testing::DialogScript split([this](qt::QtDialogSurface& dialog) {
     ClickCell(dialog.FindQWidget("grTempDistribution"), 0, 1);
     Type("off");
-    ShootWidget(dialog, "14-account-completion.png");
+    ShootWidget(dialog, "17-account-completion.png");
     Press(Qt::Key_Down);
     Press(Qt::Key_Tab);  // takes 5100: with the whole 200.00 on it, Accept is next
     Press(Qt::Key_Enter);
@@ -294,6 +328,7 @@ QStringList DemoSession::Play() {
   PlaySplitWithRefusal();
   PlayLockedFields();
   PlayInvoiceList();
+  PlayInvoicePaste();
   PlayChartAndTax();
   return written_;
 }

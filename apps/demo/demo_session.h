@@ -44,6 +44,7 @@ class DemoSession {
   void PlayLockedFields();
   void PlayInvoiceList();
   void PlayChartAndTax();
+  void PlayInvoicePaste();
 
   DemoWindow& window_;
   QDir screenshots_;

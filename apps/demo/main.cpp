@@ -69,5 +69,5 @@ int main(int argc, char** argv) {
   out << "\nEvents the host received:\n";
   for (const QString& line : window.EventLog()) out << "  " << line << "\n";
   out.flush();
-  return played.Complete() && shots.size() == 14 ? EXIT_SUCCESS : EXIT_FAILURE;
+  return played.Complete() && shots.size() == 17 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

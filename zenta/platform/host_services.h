@@ -42,6 +42,12 @@ class HostServices {
   virtual Date Today() const = 0;
   // Asked afresh on every use: the host's locale may change while it runs.
   virtual char32_t DecimalSeparator() const = 0;
+  // The host locale's short date pattern ("d", "M", "y" runs and separators, as "M/d/yy").
+  virtual std::string ShortDatePattern() const { return "yyyy-MM-dd"; }
+
+  // The system clipboard's plain text (UTF-8), for copy and paste.
+  virtual std::string ClipboardText() const { return {}; }
+  virtual void SetClipboardText(const std::string& text) { (void)text; }
 };
 
 }  // namespace zenta::platform

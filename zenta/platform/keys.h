@@ -14,6 +14,7 @@ inline constexpr int kF2 = 113;
 inline constexpr int kF3 = 114;
 inline constexpr int kF4 = 115;
 inline constexpr int kF8 = 119;
+inline constexpr int kInsert = 45;
 }  // namespace keys
 
 enum ShiftState : int { kNoShift = 0, kShift = 1, kCtrl = 2, kAlt = 4 };

@@ -1,5 +1,6 @@
 #include "zenta/qt/invoice_entry.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QTableView>
 #include <QVariantMap>
@@ -54,9 +55,28 @@ InvoiceEntry::InvoiceEntry(QWidget* parent)
     connect(view->model(), &QAbstractItemModel::headerDataChanged, this, &InvoiceEntry::FitGrid, Qt::QueuedConnection);
   }
   FitGrid();
+  CreateUndoActions();
 }
 
+void InvoiceEntry::CreateUndoActions() {
+  undo_action_ = new QAction(UiText("&Undo"), this);
+  redo_action_ = new QAction(UiText("&Redo"), this);
+  undo_action_->setShortcut(QKeySequence::Undo);
+  redo_action_->setShortcut(QKeySequence::Redo);
+  connect(undo_action_, &QAction::triggered, this, [this] { Guard([&] { control_->Undo(); }); });
+  connect(redo_action_, &QAction::triggered, this, [this] { Guard([&] { control_->Redo(); }); });
+  auto follow = [this] {
+    undo_action_->setEnabled(control_->CanUndo());
+    redo_action_->setEnabled(control_->CanRedo());
+  };
+  control_->OnUndoStateChanged(follow);
+  follow();
+}
+
+void InvoiceEntry::PasteText(const QString& text) { Guard([&] { control_->PasteText(text.toStdString()); }); }
+
 InvoiceEntry::~InvoiceEntry() {
+  if (control_) control_->OnUndoStateChanged({});
   // The control lets go of its grids when it is destroyed, so it goes before the surface.
   DetachControl();
   control_.reset();

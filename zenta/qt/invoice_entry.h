@@ -10,6 +10,8 @@
 #include "zenta/qt/control_widget.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 
+class QAction;
+
 namespace zenta::qt {
 
 // The list of invoices one payment settles, as a Qt widget: date, number or description and
@@ -105,6 +107,13 @@ class InvoiceEntry : public ControlWidget {
   Currency TotalExpense() const;
   Currency TotalForeignAmount() const;
 
+  // Bulk entry: text pasted as Ctrl+V pastes the clipboard's (rows from a spreadsheet; refused
+  // rows are listed in one message), and undo and redo as actions for the host's Edit menu,
+  // enabled only while there is a step to undo or redo.
+  Q_INVOKABLE void PasteText(const QString& text);
+  QAction* undoAction() const { return undo_action_; }
+  QAction* redoAction() const { return redo_action_; }
+
   // The control logic, for C++ hosts that want its errors thrown rather than signalled and for
   // tools that load the store in bulk.
   zenta::InvoiceEntry& Control() { return *control_; }
@@ -136,8 +145,11 @@ class InvoiceEntry : public ControlWidget {
   int ColumnsWidth() const;
   int NeededWidth() const;
   void FitGrid();
+  void CreateUndoActions();
 
   std::unique_ptr<zenta::InvoiceEntry> control_;
+  QAction* undo_action_ = nullptr;
+  QAction* redo_action_ = nullptr;
 };
 
 }  // namespace zenta::qt

@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "zenta/controls/distribution/distribution_paste.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
 #include "zenta/core/ole_color.h"
+#include "zenta/entry/edit_keys.h"
 #include "zenta/platform/keys.h"
 
 namespace zenta {
@@ -143,14 +145,22 @@ void FrmDistribution::WireGrid() {
       return;
     }
     deleting_row_ = grid_.Engine().CurrentRow();
+    if (model_.Table()) lines_before_ = *model_.Table();
   };
   on.after_delete = [this] {
     // The line that took the deleted one's place is where the payer goes on.
     const std::optional<int> deleted = std::exchange(deleting_row_, std::nullopt);
     AfterLinesChanged(deleted ? std::optional<int>(*deleted - 1) : std::nullopt);
     KeepOffDeleteColumn();
+    if (lines_before_) RecordLines(*std::exchange(lines_before_, std::nullopt));
   };
-  on.after_update = [this] { OnAfterUpdate(); };
+  on.before_update = [this](platform::CancelArgs&) {
+    if (model_.Table()) lines_before_ = *model_.Table();
+  };
+  on.after_update = [this] {
+    OnAfterUpdate();
+    if (lines_before_) RecordLines(*std::exchange(lines_before_, std::nullopt));
+  };
   on.new_row_request = [this](int) { OnNewRowRequest(); };
   on.button_click = [&engine](int column) {
     if (column == Column::kDeleteColumn) engine.DeleteCurrentRow();
@@ -212,6 +222,8 @@ void FrmDistribution::SetupForm() {
     if (!styled) engine.AddColumnStyle(column, {kNegativePattern, kRed, std::nullopt});
   }
   engine.Bind(model_.Table());
+  history_.Clear();
+  lines_before_.reset();
   CalculateDistAmounts();
   ShowAccountName();
 }
@@ -366,6 +378,7 @@ void FrmDistribution::OnAfterUpdate() {
 // Tab or Enter from the row's last amount stores the row, then goes to Accept once the lines
 // add up, else to the next line's account. Ctrl+Tab is the way out of the grid and passes.
 void FrmDistribution::OnKeyDown(platform::KeyDown& key) {
+  if (RunEditCommand(key)) return;
   if ((key.key_code != platform::keys::kTab && key.key_code != platform::keys::kEnter) ||
       key.shift != platform::kNoShift) {
     return;
@@ -470,6 +483,59 @@ void FrmDistribution::OnCancel() {
   grid_.Engine().CancelEdit();
   model_.SetChosen(false);
   surface_->Hide();
+}
+
+bool FrmDistribution::RunEditCommand(platform::KeyDown& key) {
+  const entry::EditCommand command = entry::EditCommandOf(key);
+  if (command == entry::EditCommand::kNone || command == entry::EditCommand::kCopy) return false;
+  key.key_code = 0;
+  if (command == entry::EditCommand::kPaste) PasteText(host_.ClipboardText());
+  if (command == entry::EditCommand::kUndo) Undo();
+  if (command == entry::EditCommand::kRedo) Redo();
+  return true;
+}
+
+void FrmDistribution::PasteText(const std::string& text) {
+  // An empty clipboard leaves the line being typed as it is.
+  if (text.find_first_not_of(" \t\r\n") == std::string::npos) return;
+  platform::GridEngine& engine = grid_.Engine();
+  const int column = engine.CurrentColumn();
+  if (!engine.CommitRow() || !model_.Table()) return;
+  platform::Array2D before = *model_.Table();
+  const DistributionPaste::Outcome outcome = DistributionPaste::Paste(model_, host_, text, column);
+  if (outcome.added > 0) {
+    RecordLines(std::move(before));
+    engine.Rebind();
+    // Checked against the amount to distribute as typed lines are.
+    AfterLinesChanged(outcome.last_row);
+  }
+  if (!outcome.refused.empty()) Inform(outcome.refused);
+}
+
+void FrmDistribution::RecordLines(platform::Array2D before) {
+  auto kept = std::make_shared<platform::Array2D>(std::move(before));
+  history_.Push([this, kept] {
+    if (!model_.Table()) return;
+    std::swap(*model_.Table(), *kept);
+    grid_.Engine().Rebind();
+    CalculateDistAmounts();
+    ShowTotals();
+  });
+}
+
+bool FrmDistribution::Undo() {
+  platform::GridEngine& engine = grid_.Engine();
+  if (engine.IsEditing() || engine.RowChanged()) {
+    engine.CancelEdit();
+    return true;
+  }
+  return history_.Undo();
+}
+
+bool FrmDistribution::Redo() {
+  if (!history_.CanRedo()) return false;
+  grid_.Engine().CancelEdit();
+  return history_.Redo();
 }
 
 }  // namespace zenta

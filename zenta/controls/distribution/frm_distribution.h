@@ -10,6 +10,7 @@
 #include "zenta/controls/distribution/distribution_model.h"
 #include "zenta/core/currency.h"
 #include "zenta/core/variant.h"
+#include "zenta/entry/undo_history.h"
 #include "zenta/platform/button.h"
 #include "zenta/platform/dialog_surface.h"
 #include "zenta/platform/grid.h"
@@ -70,6 +71,12 @@ class FrmDistribution {
   // lines.
   void CloseAsCancelled() { OnCancel(); }
   void Move(int left, int top) { surface_->Move(left, top); }
+  // Lines pasted from a spreadsheet (Ctrl+V, Shift+Insert), and undo and redo of a paste, a
+  // stored line or a deleted one (Ctrl+Z, Ctrl+Y or Ctrl+Shift+Z) within one showing.
+  void PasteText(const std::string& text);
+  bool Undo();
+  bool Redo();
+
   // For callers that style the grid or propose a first line.
   platform::Grid& Grid() { return grid_; }
   platform::DialogSurface& Surface() { return *surface_; }
@@ -114,6 +121,11 @@ class FrmDistribution {
   AccountChart accounts_;
   AccountCompletion completion_{grid_, accounts_};
   std::optional<int> deleting_row_;
+  // The lines before the payer's step that is under way, and the steps taken.
+  std::optional<platform::Array2D> lines_before_;
+  entry::UndoHistory history_;
+  void RecordLines(platform::Array2D before);
+  bool RunEditCommand(platform::KeyDown& key);
 };
 
 }  // namespace zenta

@@ -3,18 +3,24 @@
 #include <algorithm>
 #include <cctype>
 #include <string_view>
+#include <utility>
 
 #include "zenta/controls/distribution/distribution_handover.h"
 #include "zenta/controls/distribution/rate_conversion.h"
 #include "zenta/controls/distribution/validation_texts.h"
 #include "zenta/controls/distribution/view_dist_column.h"
 #include "zenta/controls/invoice_entry/detail_lines.h"
+#include "zenta/controls/invoice_entry/invoice_clipboard.h"
+#include "zenta/controls/invoice_entry/invoice_date_rule.h"
+#include "zenta/controls/invoice_entry/invoice_limits.h"
+#include "zenta/controls/invoice_entry/invoice_texts.h"
 #include "zenta/core/date_mask.h"
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
 #include "zenta/core/utf8.h"
 #include "zenta/entry/amount_entry.h"
 #include "zenta/entry/amount_key_filter.h"
+#include "zenta/entry/edit_keys.h"
 #include "zenta/entry/enter_key.h"
 #include "zenta/entry/text_filters.h"
 #include "zenta/platform/grid_engine.h"
@@ -28,28 +34,25 @@ using Col = InvoiceStore::Column;
 
 constexpr platform::TwipsRect kInvoiceGridRect{0, 0, 6120, 2415};
 constexpr platform::TwipsRect kDistributionGridRect{6180, 0, 2880, 2415};
-constexpr std::size_t kMaxNumberLength = 255;
+using invoice_limits::kMaxNumberLength;
 // A character takes at least one byte, so a short text needs no counting: the validity check
 // runs over every row.
 bool NumberTooLong(std::string_view number) {
   return number.size() > kMaxNumberLength && utf8::Length(number) > kMaxNumberLength;
 }
 constexpr const char* kConversionSource = "InvoiceEntry";
-// "#######0.00": eight digits before the point, two after.
-constexpr entry::AmountDigitLimits kAmountDigits{8, 2};
-constexpr std::int64_t kForeignLimit = 9'999'999'99LL * (Currency::kScale / 100);
+using invoice_limits::kAmountDigits;
+using invoice_limits::InForeignRange;
 
-constexpr const char* kDateRequired = "An invoice date is required";
-constexpr const char* kNumberRequired = "An invoice number / description is required";
-constexpr const char* kAmountRequired = "An invoice amount is required";
-constexpr const char* kTooFarAhead =
-    "The Invoice Date cannot be set to more than two years into the future. Please adjust the date.";
-constexpr const char* kDateTitle = "Invoice Date Validation";
-constexpr const char* kFutureDate = "You have entered future dated invoice, would you like to change it?";
-constexpr const char* kLongAgo =
-    "The Invoice Date you entered is more than a year earlier than the current date, would you like to change it?";
+using texts::kAmountRequired;
+using texts::kDateRequired;
+using texts::kDateTitle;
+using texts::kFutureDate;
+using texts::kLongAgo;
+using texts::kNumberRequired;
+using texts::kNumberTooLong;
+using texts::kTooFarAhead;
 using texts::kGSTRequired;
-constexpr const char* kNumberTooLong = "The Invoice Number/Description cannot be more than 255 characters.";
 using texts::kNoDistribution;
 constexpr const char* kListFull =
     "The list is full: it holds at most 32,767 invoices. Delete one, or clear a row, to add this invoice.";
@@ -92,8 +95,6 @@ Rate RateOf(const Variant& value) {
   }
   return Rate::FromCurrency(value.ToCurrency());
 }
-
-bool InForeignRange(Currency amount) { return amount.Units() >= -kForeignLimit && amount.Units() <= kForeignLimit; }
 
 constexpr std::string_view kCurrentRow = "CurrentRow";
 
@@ -229,14 +230,24 @@ void InvoiceEntry::WireGrid() {
     // for a blank row to be made (or the typing to be abandoned).
     const platform::GridEngine& engine = grid_.Engine();
     const auto current = engine.CurrentRow();
-    if (!current || !engine.IsAddNewRow(*current) || store_.Count() < InvoiceStore::kMaxRows) return;
+    if (!current || !engine.IsAddNewRow(*current) || store_.Count() < InvoiceStore::kMaxRows) {
+      if (current && engine.IsAddNewRow(*current)) {
+        row_edit_ = RowEdit{true, {}};
+      } else if (current && *current < store_.Count()) {
+        row_edit_ = RowEdit{false, store_.At(*current)};
+      }
+      return;
+    }
     host_.ShowMessage({kListFull, "Invoice Entry", platform::MessageButtons::Ok, platform::MessageIcon::Information});
     args.cancel = true;
   };
   on.after_update = [this] {
     // The derived columns are worked out now, for the row just stored: the distribution window
     // may open before the posted refresh runs, and the cursor may have moved on by then.
-    if (const auto stored = grid_.Engine().CurrentRow()) DeriveColumns(*stored);
+    const auto stored = grid_.Engine().CurrentRow();
+    if (stored) DeriveColumns(*stored);
+    if (row_edit_ && stored && *stored < store_.Count()) RecordRowEdit(*stored, std::move(*row_edit_));
+    row_edit_.reset();
     grid_.Engine().PostMessage(kAfterRowEdit);
   };
   on.before_delete = [this](platform::CancelArgs& args) {
@@ -244,8 +255,10 @@ void InvoiceEntry::WireGrid() {
     args.cancel = host_.ShowMessage({"Are you sure you want to delete this invoice?", "Delete this invoice?",
                                      platform::MessageButtons::YesNo, platform::MessageIcon::Question}) ==
                   platform::MessageResult::No;
+    if (!args.cancel) step_before_ = store_;
   };
   on.after_delete = [this] {
+    if (step_before_) RecordStep(*std::exchange(step_before_, std::nullopt));
     host_.ValueChanged(kCurrentRow);
     ShowCurrentLines(true);
     ScheduleTotals();
@@ -296,6 +309,7 @@ void InvoiceEntry::WireGrid() {
 }
 
 void InvoiceEntry::OnKeyDown(platform::KeyDown& key) {
+  if (RunEditCommand(key)) return;
   if (TaxCellApplies() && TaxCell().Fill(grid_.Engine(), context_.GstHst(), TaxDay(grid_.Engine().CurrentRow()), key)) return;
   const bool forward = key.key_code == platform::keys::kTab || key.key_code == platform::keys::kEnter;
   if (!forward || key.shift != platform::kNoShift) return;
@@ -328,19 +342,16 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
       }
       return;
     }
-    const Date today = host_.Today();
-    if (*date > today.AddYears(2)) {
+    const InvoiceDateVerdict verdict = JudgeInvoiceDate(*date, host_.Today());
+    if (verdict == InvoiceDateVerdict::kTooFarAhead) {
       // The date editor's own limit, before the column's questions.
       host_.ShowMessage({kTooFarAhead, kDateTitle, platform::MessageButtons::Ok, platform::MessageIcon::Information});
       args.cancel = true;
       return;
     }
-    const char* question = nullptr;
-    if (*date > today && *date <= today.AddYears(2)) {
-      question = kFutureDate;
-    } else if (date->DaysUntil(today) > 365) {
-      question = kLongAgo;
-    }
+    const char* question = verdict == InvoiceDateVerdict::kFuture    ? kFutureDate
+                            : verdict == InvoiceDateVerdict::kLongAgo ? kLongAgo
+                                                                      : nullptr;
     if (question && Ask(question, kDateTitle)) args.cancel = true;
   } else if (args.column == Col::kNumberColumn) {
     std::string number = engine.CellText(Col::kNumberColumn);
@@ -533,6 +544,9 @@ void InvoiceEntry::Clear() {
   opener_.Abandon();
   grid_.Engine().CancelEdit();
   store_.Clear();
+  step_before_.reset();
+  row_edit_.reset();
+  history_.Clear();
   Rebind();
   SetupIPGrid();
   grid_.Engine().SetCurrentColumn(Col::kDateColumn);
@@ -682,6 +696,8 @@ void InvoiceEntry::ShowDistribution() {
     lines.push_back({line->ID, line->GLAccount, line->Amount,
                      at < typed_foreign.size() ? typed_foreign[at] : std::nullopt});
   }
+  const auto* before = store_.Lines(id);
+  RecordSplit(index, before ? *before : std::vector<InvoiceLine>{}, store_.At(index).payment_for);
   store_.SetLines(id, std::move(lines));
   store_.SetPaymentFor(index, Text(dialog.PaymentFor()));
   engine.Refresh();
@@ -809,7 +825,9 @@ void InvoiceEntry::DeleteCurrentRow() {
   const platform::Lifetime::Watch control = lifetime_.Watched();
   deleting_ = true;
   grid_.Engine().DeleteCurrentRow();  // raises Recalculate
-  if (control.Alive()) deleting_ = false;
+  if (!control.Alive()) return;
+  deleting_ = false;
+  history_.Clear();
 }
 
 void InvoiceEntry::SetInvoiceValues(std::int16_t /*TheRow*/, const Variant& value) {
@@ -842,6 +860,7 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
   row.payment_for = store_.At(index).payment_for;
   row.email = store_.At(index).email;
   store_.Put(index, std::move(row));
+  history_.Clear();
   if (out_of_range) grid_.Engine().PostMessage(kForeignRangeMessage);
   Rebind();
   if (show) {
@@ -869,6 +888,7 @@ void InvoiceEntry::RepositionAfterBulk() {
 
 void InvoiceEntry::SetEmailFilename(std::int16_t TheRow, const std::string& TheEmailAddress) {
   store_.SetEmail(CheckedRow(TheRow), TheEmailAddress);
+  history_.Clear();
 }
 
 std::int16_t InvoiceEntry::InvoiceCount_DetailLines() const {
@@ -896,6 +916,7 @@ void InvoiceEntry::DeleteByEmailFilename(const std::string& strFilename) {
   const std::string name = Upper(Trimmed(strFilename));
   if (name.empty()) return;
   store_.RemoveIf([&name](const InvoiceStore::Row& row) { return Upper(row.email) == name; });
+  history_.Clear();
   Rebind();
   RepositionAfterBulk();
 }
@@ -909,6 +930,7 @@ void InvoiceEntry::SetCurrencyRate(float rate) {
 
 void InvoiceEntry::SetIPCurrency(const std::string& code) {
   ip_currency_ = code;
+  history_.Clear();
   // The totals read other columns in foreign-currency mode.
   AnnounceSummary();
 }
@@ -947,6 +969,7 @@ void InvoiceEntry::SetupIPGrid() {
   platform::GridEngine& engine = grid_.Engine();
   const bool foreign = ForeignMode();
   const bool wide = foreign || BusinessMode();
+  history_.Clear();
   engine.SetColumnVisible(Col::kGSTColumn, wide);
   engine.SetColumnVisible(Col::kExpenseColumn, wide);
   engine.SetColumnLocked(Col::kGSTColumn, foreign);
@@ -988,6 +1011,106 @@ void InvoiceEntry::ReadProperties(const platform::PropertyBag& bag) {
   Clear();
   AnnounceStoredProperties();
   AnnounceSummary();
+}
+
+}  // namespace zenta
+
+namespace zenta {
+
+bool InvoiceEntry::RunEditCommand(platform::KeyDown& key) {
+  const entry::EditCommand command = entry::EditCommandOf(key);
+  if (command == entry::EditCommand::kNone) return false;
+  key.key_code = 0;
+  switch (command) {
+    case entry::EditCommand::kCopy: CopyCurrentRow(); break;
+    case entry::EditCommand::kPaste: PasteText(host_.ClipboardText()); break;
+    case entry::EditCommand::kUndo: Undo(); break;
+    case entry::EditCommand::kRedo: Redo(); break;
+    case entry::EditCommand::kNone: break;
+  }
+  return true;
+}
+
+void InvoiceEntry::PasteText(const std::string& text) { InvoiceClipboard(*this).Paste(text); }
+
+void InvoiceEntry::CopyCurrentRow() { InvoiceClipboard(*this).CopyCurrentRow(); }
+
+void InvoiceEntry::RecordStep(InvoiceStore before) {
+  auto kept = std::make_shared<InvoiceStore>(std::move(before));
+  history_.Push([this, kept] {
+    std::swap(store_, *kept);
+    ShowRestoredList();
+  });
+}
+
+void InvoiceEntry::RecordRowEdit(int index, RowEdit edit) {
+  auto kept = std::make_shared<RowEdit>(std::move(edit));
+  history_.Push([this, index, kept] {
+    if (!kept->appended) {
+      InvoiceStore::Row now = store_.At(index);
+      store_.Put(index, std::move(kept->before));
+      kept->before = std::move(now);
+    } else if (index < store_.Count()) {
+      // Undone: the row goes, kept for a redo. Its lines went with a split undone before.
+      kept->before = store_.At(index);
+      kept->before.id = 0;
+      store_.Remove(index);
+    } else {
+      store_.AppendRow({});
+      store_.Put(index, std::move(kept->before));
+    }
+    ShowRestoredList();
+  });
+}
+
+void InvoiceEntry::RecordSplit(int index, std::vector<InvoiceLine> lines, std::string payment_for) {
+  struct Split {
+    std::vector<InvoiceLine> lines;
+    std::string payment_for;
+  };
+  auto kept = std::make_shared<Split>(Split{std::move(lines), std::move(payment_for)});
+  history_.Push([this, index, kept] {
+    // A row typed again by a redo has no identifier yet.
+    store_.EnsureId(index);
+    const std::int16_t id = store_.At(index).id;
+    const auto* now = store_.Lines(id);
+    std::vector<InvoiceLine> current = now ? *now : std::vector<InvoiceLine>{};
+    std::string payment_for_now = store_.At(index).payment_for;
+    store_.SetLines(id, std::move(kept->lines));
+    store_.SetPaymentFor(index, std::move(kept->payment_for));
+    kept->lines = std::move(current);
+    kept->payment_for = std::move(payment_for_now);
+    ShowRestoredList();
+  });
+}
+
+void InvoiceEntry::ShowRestoredList() {
+  grid_.Engine().CancelEdit();
+  Rebind();
+  ShowCurrentLines(true);
+  AnnounceSummary();
+}
+
+bool InvoiceEntry::Undo() {
+  platform::GridEngine& engine = grid_.Engine();
+  // Typing not yet stored in the list is what goes first.
+  if (engine.IsEditing() || engine.RowChanged()) {
+    engine.CancelEdit();
+    return true;
+  }
+  if (!history_.Undo()) return false;
+  // The host hears what it would after the payer's reverse edit.
+  events_.Recalculate();
+  return true;
+}
+
+bool InvoiceEntry::Redo() {
+  platform::GridEngine& engine = grid_.Engine();
+  if (!history_.CanRedo()) return false;
+  engine.CancelEdit();
+  history_.Redo();
+  events_.Recalculate();
+  return true;
 }
 
 }  // namespace zenta

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,7 @@
 #include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
 #include "zenta/entry/gst_hst_cell.h"
+#include "zenta/entry/undo_history.h"
 #include "zenta/platform/control_surface.h"
 #include "zenta/platform/grid.h"
 #include "zenta/platform/host_services.h"
@@ -144,6 +147,21 @@ class InvoiceEntry {
   bool ForeignMode() const;
   const std::vector<std::string>& ParsedLines() const { return parsed_lines_; }
 
+  // Bulk entry (Ctrl+V or Shift+Insert, Ctrl+C, Ctrl+Z, Ctrl+Y or Ctrl+Shift+Z on the list).
+  // Pasted rows of tab-separated or comma-separated text meet the checks and host vetoes of
+  // typed ones; refused rows are left out and listed in one message, the others added as one
+  // step. Copy puts the current row on the clipboard. A stored row edit, a deleted row, a paste
+  // and an accepted split are one step each; Clear, a mode switch and the host's own changes
+  // to the list forget them.
+  void PasteText(const std::string& text);
+  void CopyCurrentRow();
+  bool Undo();
+  bool Redo();
+  bool CanUndo() const { return history_.CanUndo(); }
+  bool CanRedo() const { return history_.CanRedo(); }
+  // Runs whenever CanUndo or CanRedo may have changed.
+  void OnUndoStateChanged(std::function<void()> listener) { history_.OnChanged(std::move(listener)); }
+
   // Persistence: defaults, or the eleven stored keys, applied in load order.
   void InitProperties();
   void ReadProperties(const platform::PropertyBag& bag);
@@ -205,6 +223,22 @@ class InvoiceEntry {
   bool CheckCurrentRow(std::string& reason, bool& incomplete, int& column);
   bool Fail(std::string& InvalidReason, const std::string& reason, int column);
 
+  friend class InvoiceClipboard;
+  // `before` is the whole list as it was before the payer's step that just ended (a deletion
+  // or a paste, which cost as much as the copy already).
+  void RecordStep(InvoiceStore before);
+  // A stored row edit keeps only that row: leaving an edited row costs the same whatever the
+  // list's length. A new row is kept as appended.
+  struct RowEdit {
+    bool appended = false;
+    InvoiceStore::Row before;
+  };
+  void RecordRowEdit(int index, RowEdit edit);
+  // An accepted split keeps the row's lines and payment-for text as they were.
+  void RecordSplit(int index, std::vector<InvoiceLine> lines, std::string payment_for);
+  void ShowRestoredList();
+  bool RunEditCommand(platform::KeyDown& key);
+
   platform::ControlSurface& surface_;
   platform::HostServices& host_;
   LibraryContext& context_;
@@ -223,6 +257,9 @@ class InvoiceEntry {
   bool number_refused_ = false;
   bool amount_refused_ = false;
   std::vector<std::string> parsed_lines_;
+  entry::UndoHistory history_;
+  std::optional<InvoiceStore> step_before_;
+  std::optional<RowEdit> row_edit_;
   // Last, so an open window closes before anything else of the control goes.
   DistributionOpener opener_{context_};
   platform::Lifetime lifetime_;

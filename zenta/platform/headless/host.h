@@ -42,6 +42,11 @@ class Host : public platform::HostServices {
   platform::ContainerMetrics Container() const override { return container_; }
   Date Today() const override;
   char32_t DecimalSeparator() const override { return separator_; }
+  std::string ShortDatePattern() const override { return short_date_; }
+  // An in-memory clipboard the test fills and reads.
+  std::string ClipboardText() const override { return clipboard_; }
+  void SetClipboardText(const std::string& text) override { clipboard_ = text; }
+  void SetShortDatePattern(std::string pattern) { short_date_ = std::move(pattern); }
 
   int Beeps() const { return beeps_; }
   void SetContainer(const platform::ContainerMetrics& metrics) { container_ = metrics; }
@@ -81,6 +86,8 @@ class Host : public platform::HostServices {
   std::function<void(std::string_view)> on_value_changed_;
   std::vector<std::string> injected_;
   char32_t separator_ = U'.';
+  std::string short_date_ = "yyyy-MM-dd";
+  std::string clipboard_;
   int beeps_ = 0;
   platform::ContainerMetrics container_;
 };

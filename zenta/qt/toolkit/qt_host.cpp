@@ -1,6 +1,7 @@
 #include "zenta/qt/toolkit/qt_host.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDate>
 #include <QKeyEvent>
 #include <QLocale>
@@ -112,6 +113,17 @@ Date QtHost::Today() const { return FromQDate(QDate::currentDate()); }
 char32_t QtHost::DecimalSeparator() const {
   const QList<uint> point = QLocale().decimalPoint().toUcs4();
   return point.isEmpty() ? U'.' : static_cast<char32_t>(point.front());
+}
+
+std::string QtHost::ShortDatePattern() const { return QLocale().dateFormat(QLocale::ShortFormat).toStdString(); }
+
+std::string QtHost::ClipboardText() const {
+  const QClipboard* clipboard = QGuiApplication::clipboard();
+  return clipboard ? clipboard->text().toStdString() : std::string();
+}
+
+void QtHost::SetClipboardText(const std::string& text) {
+  if (QClipboard* clipboard = QGuiApplication::clipboard()) clipboard->setText(QString::fromStdString(text));
 }
 
 void QtHost::Post(std::function<void()> action) {

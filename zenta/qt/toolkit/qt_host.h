@@ -26,6 +26,9 @@ class QtHost : public platform::HostServices {
   platform::MessageResult ShowMessage(const platform::MessageBox& box) override;
   Date Today() const override;
   char32_t DecimalSeparator() const override;
+  std::string ShortDatePattern() const override;
+  std::string ClipboardText() const override;
+  void SetClipboardText(const std::string& text) override;
   // A queued call on the owner: it runs once the event being handled has returned.
   void Post(std::function<void()> action) override;
   void Beep() override;
