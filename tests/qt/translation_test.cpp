@@ -75,6 +75,19 @@ class TranslationTest : public QObject {
     QCOMPARE(UiText("View"), QString("Voir"));
   }
 
+  // Messages built around figures (rows, lines, accounts) and listing several refusals: the
+  // words move as the translation has them, the figures stay, the captions and reasons inside
+  // are translated too.
+  void messagesWithFiguresReadInTheInstalledLanguage() {
+    QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
+    QCOMPARE(UiText("These rows were not pasted:\nRow 2, Invoice Amount: not an amount\nRow 5, Invoice Amount: 100%1"),
+             QString::fromUtf8("Ces lignes n’ont pas été collées :\nLigne 2, Montant de la facture : pas un montant\n"
+                               "Ligne 5, Montant de la facture : 100%1"));
+    QCOMPARE(UiText("Line 2: the account 9999 is not in the chart of accounts."),
+             QString::fromUtf8("Ligne 2 : le compte 9999 n’est pas dans le plan comptable."));
+    QCOMPARE(UiText("5100 OFFICE (inactive)"), QString("5100 OFFICE (inactif)"));
+  }
+
   // The reasons IsDataValid hands the host are for the payer: translated when a translation is
   // installed, the English texts exactly otherwise.
   void validationReasonsReadInTheInstalledLanguage_data() {

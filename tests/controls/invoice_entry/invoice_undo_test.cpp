@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "tests/controls/invoice_entry/invoice_screen.h"
 #include "zenta/platform/keys.h"
@@ -123,9 +124,12 @@ TEST_F(InvoiceUndoTest, AnAcceptedSplitIsUndoneBeforeTheRowItSplits) {
   user.PressEnter();
   ASSERT_EQ(control.InvoiceValues(1)->Distributions->Count(), 1);
   user.Focus(Grid());
+  host.ClearEvents();
   PressUndo();
   ASSERT_EQ(control.RowCount(), 1);
   EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 0);
+  // As if the payer had accepted the earlier split again: the row's split, then the totals.
+  EXPECT_EQ(Events(), (std::vector<std::string>{"DistributionEntered", "Recalculate"}));
   PressUndo();
   EXPECT_EQ(control.RowCount(), 0);
   PressRedo();

@@ -1,6 +1,8 @@
 #include "zenta/controls/distribution/account_chart.h"
 
+#include "zenta/core/message_template.h"
 #include "zenta/core/utf8.h"
+#include "zenta/entry/message_templates.h"
 
 namespace zenta {
 
@@ -8,7 +10,7 @@ AccountChart::Note AccountChart::NoteFor(std::string_view account) const {
   if (!HasChart() || utf8::Trim(account).empty()) return {};
   const GLAccount* found = chart_->Find(account);
   if (!found) return {kUnknownNote, true};
-  if (!found->active) return {ChartOfAccounts::Caption(*found) + " (inactive)", true};
+  if (!found->active) return {FillTemplate(texts::kInactiveAccount, {ChartOfAccounts::Caption(*found)}), true};
   return {ChartOfAccounts::Caption(*found), false};
 }
 
@@ -24,8 +26,8 @@ std::optional<AccountChart::Refusal> AccountChart::StrictRefusal(const platform:
     const GLAccount* found = chart_->Find(account);
     if (found && found->active) continue;
     const std::string line = std::to_string(row - first + 1);
-    const std::string what = found ? " is inactive in the chart of accounts." : " is not in the chart of accounts.";
-    return Refusal{row, "Line " + line + ": the account " + std::string(utf8::Trim(account)) + what};
+    const char* templ = found ? texts::kInactiveAccountLine : texts::kUnknownAccountLine;
+    return Refusal{row, FillTemplate(templ, {line, utf8::Trim(account)})};
   }
   return std::nullopt;
 }

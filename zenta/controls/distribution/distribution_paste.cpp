@@ -2,8 +2,10 @@
 
 #include <vector>
 
+#include "zenta/core/message_template.h"
 #include "zenta/core/number_format.h"
 #include "zenta/entry/clipboard_table.h"
+#include "zenta/entry/message_templates.h"
 #include "zenta/entry/pasted_amount.h"
 
 namespace zenta {
@@ -12,7 +14,6 @@ namespace {
 using Column = DistributionModel;
 
 constexpr const char* kRefused = "These lines were not pasted:";
-constexpr const char* kLine = "Line";
 constexpr const char* kAccountTooLong = "The General Ledger Account Number must not be more than 30 characters in length.";
 constexpr const char* kNotAnAmount = "not an amount";
 constexpr const char* kAmountRequired = "An amount is required.";
@@ -51,7 +52,7 @@ DistributionPaste::Outcome DistributionPaste::Paste(DistributionModel& model, co
     }
     if (!any) continue;
     auto refuse = [&](const char* reason) {
-      outcome.refused += "\n" + std::string(kLine) + " " + std::to_string(i + 1) + ": " + reason;
+      outcome.refused += "\n" + FillTemplate(texts::kRefusedLine, {std::to_string(i + 1), reason});
     };
     std::optional<Currency> amount;
     if (!amount_text.empty()) {

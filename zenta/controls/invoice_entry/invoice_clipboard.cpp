@@ -8,8 +8,10 @@
 #include "zenta/controls/invoice_entry/invoice_limits.h"
 #include "zenta/controls/invoice_entry/invoice_texts.h"
 #include "zenta/core/host_error.h"
+#include "zenta/core/message_template.h"
 #include "zenta/core/number_format.h"
 #include "zenta/core/utf8.h"
+#include "zenta/entry/message_templates.h"
 #include "zenta/entry/pasted_amount.h"
 #include "zenta/entry/pasted_date.h"
 #include "zenta/entry/text_filters.h"
@@ -135,11 +137,11 @@ bool InvoiceClipboard::AskAboutDates(std::vector<Candidate>& candidates, Invoice
   std::string lines;
   for (const Candidate& candidate : candidates) {
     if (candidate.date_verdict != verdict) continue;
-    lines += (lines.empty() ? " " : ", ") + std::to_string(candidate.line);
+    lines += (lines.empty() ? "" : ", ") + std::to_string(candidate.line);
   }
   if (lines.empty()) return true;
   const platform::Lifetime::Watch alive = control_.lifetime_.Watched();
-  const std::string text = std::string(question) + "\n" + texts::kPasteRows + lines;
+  const std::string text = std::string(question) + "\n" + FillTemplate(texts::kQuestionRows, {lines});
   const bool change = control_.Ask(text.c_str(), texts::kDateTitle);
   if (!alive.Alive()) return false;
   if (!change) return true;
@@ -209,8 +211,8 @@ void InvoiceClipboard::ReportRefusals() {
   const platform::GridEngine& engine = control_.grid_.Engine();
   std::string text = texts::kPasteRefused;
   for (const Refusal& refusal : refusals_) {
-    text += "\n" + std::string(texts::kPasteRow) + " " + std::to_string(refusal.line) + ", " +
-            engine.Column(refusal.column).caption + ": " + refusal.reason;
+    text += "\n" + FillTemplate(texts::kRefusedRow,
+                                 {std::to_string(refusal.line), engine.Column(refusal.column).caption, refusal.reason});
   }
   control_.host_.ShowMessage({text, texts::kPasteTitle, platform::MessageButtons::Ok, platform::MessageIcon::Information});
 }

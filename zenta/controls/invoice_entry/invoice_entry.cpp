@@ -1080,6 +1080,7 @@ void InvoiceEntry::RecordSplit(int index, std::vector<InvoiceLine> lines, std::s
     store_.SetPaymentFor(index, std::move(kept->payment_for));
     kept->lines = std::move(current);
     kept->payment_for = std::move(payment_for_now);
+    restored_split_row_ = static_cast<std::int16_t>(index + 1);
     ShowRestoredList();
   });
 }
@@ -1098,18 +1099,29 @@ bool InvoiceEntry::Undo() {
     engine.CancelEdit();
     return true;
   }
+  restored_split_row_.reset();
   if (!history_.Undo()) return false;
-  // The host hears what it would after the payer's reverse edit.
-  events_.Recalculate();
+  AnnounceRestored();
   return true;
+}
+
+void InvoiceEntry::AnnounceRestored() {
+  // The host hears what it would after the payer's reverse edit: a split accepted again, then
+  // the totals.
+  if (const std::optional<std::int16_t> row = std::exchange(restored_split_row_, std::nullopt)) {
+    std::int16_t the_row = *row;
+    if (!events_.DistributionEntered(the_row)) return;
+  }
+  events_.Recalculate();
 }
 
 bool InvoiceEntry::Redo() {
   platform::GridEngine& engine = grid_.Engine();
   if (!history_.CanRedo()) return false;
   engine.CancelEdit();
+  restored_split_row_.reset();
   history_.Redo();
-  events_.Recalculate();
+  AnnounceRestored();
   return true;
 }
 

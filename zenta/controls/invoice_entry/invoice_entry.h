@@ -236,6 +236,7 @@ class InvoiceEntry {
   void RecordRowEdit(int index, RowEdit edit);
   // An accepted split keeps the row's lines and payment-for text as they were.
   void RecordSplit(int index, std::vector<InvoiceLine> lines, std::string payment_for);
+  void AnnounceRestored();
   void ShowRestoredList();
   bool RunEditCommand(platform::KeyDown& key);
 
@@ -258,6 +259,8 @@ class InvoiceEntry {
   bool amount_refused_ = false;
   std::vector<std::string> parsed_lines_;
   entry::UndoHistory history_;
+  // The row (from 1) whose split an undo or redo just put back: the host hears DistributionEntered.
+  std::optional<std::int16_t> restored_split_row_;
   std::optional<InvoiceStore> step_before_;
   std::optional<RowEdit> row_edit_;
   // Last, so an open window closes before anything else of the control goes.

@@ -17,8 +17,6 @@ inline constexpr const char* kNumberTooLong = "The Invoice Number/Description ca
 // Pasting rows.
 inline constexpr const char* kPasteTitle = "Paste Invoices";
 inline constexpr const char* kPasteRefused = "These rows were not pasted:";
-inline constexpr const char* kPasteRow = "Row";
-inline constexpr const char* kPasteRows = "Rows:";
 inline constexpr const char* kNotADate = "not a date";
 inline constexpr const char* kNotAnAmount = "not an amount";
 inline constexpr const char* kDuplicateRefused = "refused as a duplicate";

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include "zenta/core/message_template.h"
+#include "zenta/entry/message_templates.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 
 namespace zenta::qt {
@@ -30,12 +32,32 @@ bool SplitTrailingFigure(const std::string& english, std::string& words, std::st
   return true;
 }
 
+// "Line 2: the account 9999 ...": the template translated, its figures put back (each figure
+// itself a text the payer reads, such as a column caption or a reason).
+std::optional<QString> FromTemplate(const std::string& english) {
+  for (const char* templ : texts::kTemplates) {
+    const std::optional<std::vector<std::string>> figures = MatchTemplate(templ, english);
+    if (!figures) continue;
+    std::vector<std::string> shown;
+    for (const std::string& figure : *figures) shown.push_back(FromQString(UiText(figure)));
+    const std::vector<std::string_view> args(shown.begin(), shown.end());
+    // Filled in one pass, so a figure that itself holds "%1" stays as it is.
+    return ToQString(FillTemplate(FromQString(Translated(templ)), args));
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 QString UiText(const std::string& english) {
   if (english.empty()) return {};
   const QString translated = Translated(english);
   if (translated != ToQString(english)) return translated;
+  // A message listing refusals: each line on its own.
+  if (const auto newline = english.find('\n'); newline != std::string::npos) {
+    return UiText(english.substr(0, newline)) + QLatin1Char('\n') + UiText(english.substr(newline + 1));
+  }
+  if (std::optional<QString> filled = FromTemplate(english)) return *filled;
   // A caption with a figure: the words translated, the figure in the locale's decimal form.
   std::string leading;
   std::string figure;

@@ -327,5 +327,73 @@
         <source>Line Items</source>
         <translation>Postes</translation>
     </message>
+    <message>
+        <source>Paste Invoices</source>
+        <translation>Coller des factures</translation>
+    </message>
+    <message>
+        <source>These rows were not pasted:</source>
+        <translation>Ces lignes n’ont pas été collées :</translation>
+    </message>
+    <message>
+        <source>These lines were not pasted:</source>
+        <translation>Ces lignes n’ont pas été collées :</translation>
+    </message>
+    <message>
+        <source>not a date</source>
+        <translation>pas une date</translation>
+    </message>
+    <message>
+        <source>not an amount</source>
+        <translation>pas un montant</translation>
+    </message>
+    <message>
+        <source>refused as a duplicate</source>
+        <translation>refusée : facture en double</translation>
+    </message>
+    <message>
+        <source>refused: over the amount limit</source>
+        <translation>refusée : au-delà du montant limite</translation>
+    </message>
+    <message>
+        <source>left out to change the date</source>
+        <translation>laissée de côté pour changer la date</translation>
+    </message>
+    <message>
+        <source>The list holds at most 32,767 invoices: nothing was pasted.</source>
+        <translation>La liste contient au plus 32 767 factures : rien n’a été collé.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Row %1, %2: %3</source>
+        <translation>Ligne %1, %2 : %3</translation>
+    </message>
+    <message>
+        <source>Rows: %1</source>
+        <translation>Lignes : %1</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Line %1: the account %2 is not in the chart of accounts.</source>
+        <translation>Ligne %1 : le compte %2 n’est pas dans le plan comptable.</translation>
+    </message>
+    <message>
+        <source>Line %1: the account %2 is inactive in the chart of accounts.</source>
+        <translation>Ligne %1 : le compte %2 est inactif dans le plan comptable.</translation>
+    </message>
+    <message>
+        <source>%1 (inactive)</source>
+        <translation>%1 (inactif)</translation>
+    </message>
 </context>
 </TS>
