@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_surface.h"

@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "apps/demo/demo_window.h"
+#include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
@@ -18,6 +19,7 @@
 #include "zenta/records/cls_distributions.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
