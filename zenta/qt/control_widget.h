@@ -62,39 +62,39 @@ class ControlWidget : public QWidget {
  public:
   /// Deletes the child widgets while the control logic still exists.
   ~ControlWidget() override;
+  /// @{
 
-  ///@{
   /// Property BackColor: the background of the control (persisted). The default is the
   /// system's button face, drawn in the host's palette.
   QColor BackColor() const;
   void SetBackColor(const QColor& color);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property BusinessMode: whether the payer is a business, which shows the GST/HST and net
   /// expense fields (persisted, default false). InvoiceEntry and PaymentDetails clear their
   /// values when it is set.
   bool BusinessMode() const;
   void SetBusinessMode(bool on);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property BackColorTitle: the background of the captions (persisted).
   QColor BackColorTitle() const;
   void SetBackColorTitle(const QColor& color);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property Enabled: whether the payer can use the control (persisted, default true); one
   /// state with QWidget::isEnabled().
   bool Enabled() const;
   void SetEnabled(bool enabled);
-  ///@}
+  /// @}
+  /// @{
 
-  ///@{
   /// The setter a Designer form's generated code calls for the property of the same name.
   /// The property Enabled is set through QWidget::setEnabled(), one state with it.
   void setBackColor(const QColor& color) { SetBackColor(color); }
   void setBusinessMode(bool on) { SetBusinessMode(on); }
   void setBackColorTitle(const QColor& color) { SetBackColorTitle(color); }
-  ///@}
+  /// @}
 
   /// Ends the amount the payer is still typing as leaving the field would (money typed without
   /// a "." is read as cents: "2500" becomes 25.00) while the focus stays where it is. The

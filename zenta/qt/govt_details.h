@@ -70,86 +70,86 @@ class GovtDetails : public ControlWidget {
   Q_INVOKABLE void SetFocusGrid();        ///< Puts the focus in the line-item table.
   Q_INVOKABLE void SetFocusComment();     ///< Puts the focus in the comments.
   Q_INVOKABLE void SetFocusAmount();      ///< Puts the focus in the amount.
+  /// @{
 
-  ///@{
   /// Property PeriodFrom: the first day of the period remitted for; null for none.
   QDate PeriodFrom() const;
   void SetPeriodFrom(const QDate& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property PeriodTo: the last day of the period remitted for; null for none.
   QDate PeriodTo() const;
   void SetPeriodTo(const QDate& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property DueDate: when the remittance is due; null for none.
   QDate DueDate() const;
   void SetDueDate(const QDate& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property StatementOnly: the "Statement of Account only" check box as a 16-bit integer:
   /// 0 unchecked, 1 checked, 2 greyed; any other number (true is -1) checks it. A value that
   /// is no number raises Type mismatch (13), one outside 16 bits Overflow (6).
   QVariant StatementOnly() const;
   void SetStatementOnly(const QVariant& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property Comments: the payer's comments.
   QString Comments() const;
   void SetComments(const QString& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property OtherAmount: the other amount in dollars, a zenta::Currency, or invalid for none.
   QVariant OtherAmount() const;
   void SetOtherAmount(const QVariant& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property Amount: the amount remitted in dollars, a zenta::Currency, or invalid for none.
   QVariant Amount() const;
   void SetAmount(const QVariant& value);
-  ///@}
+  /// @}
   /// Property GridNumberofRows (read-only): the line-item table's length, set by SetRows().
   short GridNumberofRows() const;
-  ///@{
+  /// @{
   /// Property StatementOnlyEnabled: whether the payer can change the statement-only flag.
   bool StatementOnlyEnabled() const;
   void SetStatementOnlyEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property PeriodFromEnabled: whether the payer can type the period's first date.
   bool PeriodFromEnabled() const;
   void SetPeriodFromEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property PeriodToEnabled: whether the payer can type the period's last date.
   bool PeriodToEnabled() const;
   void SetPeriodToEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property DueDateEnabled: whether the payer can type the due date.
   bool DueDateEnabled() const;
   void SetDueDateEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property CommentsEnabled: whether the payer can type comments.
   bool CommentsEnabled() const;
   void SetCommentsEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property OtherAmountEnabled: whether the payer can type the other amount.
   bool OtherAmountEnabled() const;
   void SetOtherAmountEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property AmountEnabled: whether the payer can type the amount.
   bool AmountEnabled() const;
   void SetAmountEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property GridEnabled: whether the payer can type line items.
   bool GridEnabled() const;
   void SetGridEnabled(bool enabled);
-  ///@}
+  /// @}
 
   /// The control logic, for C++ hosts that want its errors thrown as zenta::HostError rather
   /// than signalled: include "zenta/controls/simple/govt_details.h" to use it.

@@ -136,58 +136,58 @@ class InvoiceEntry : public ControlWidget {
   QSize sizeHint() const override;
   /// The control's minimum size in pixels.
   QSize minimumSizeHint() const override;
+  /// @{
 
-  ///@{
   /// Property BackColorGridHeader: the column headers' background (persisted, designable).
   /// Left at its default it is drawn in the host's palette.
   QColor BackColorGridHeader() const;
   void SetBackColorGridHeader(const QColor& color);
   void setBackColorGridHeader(const QColor& color) { SetBackColorGridHeader(color); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property BackColorGridFooter: the totals row's background (persisted, designable).
   QColor BackColorGridFooter() const;
   void SetBackColorGridFooter(const QColor& color);
   void setBackColorGridFooter(const QColor& color) { SetBackColorGridFooter(color); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property ForeColorGridHeader: the column headers' text (persisted, designable). Left at
   /// its default, text on a colour the host set is black or white, whichever reads better.
   QColor ForeColorGridHeader() const;
   void SetForeColorGridHeader(const QColor& color);
   void setForeColorGridHeader(const QColor& color) { SetForeColorGridHeader(color); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property ForeColorGridFooter: the totals row's text (persisted, designable).
   QColor ForeColorGridFooter() const;
   void SetForeColorGridFooter(const QColor& color);
   void setForeColorGridFooter(const QColor& color) { SetForeColorGridFooter(color); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property RowColorEven: the background of even rows (persisted, designable).
   QColor RowColorEven() const;
   void SetRowColorEven(const QColor& color);
   void setRowColorEven(const QColor& color) { SetRowColorEven(color); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property RowColorOdd: the background of odd rows (persisted, designable).
   QColor RowColorOdd() const;
   void SetRowColorOdd(const QColor& color);
   void setRowColorOdd(const QColor& color) { SetRowColorOdd(color); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property DefaultGLAccount: the G/L account the distribution window proposes for a new
   /// line (persisted, designable).
   QString DefaultGLAccount() const;
   void SetDefaultGLAccount(const QString& account);
   void setDefaultGLAccount(const QString& account) { SetDefaultGLAccount(account); }
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property CurrentRow: the row the payer is on, from 1; 0 with none, and on the add-new
   /// row of a full list. It never wraps.
   short CurrentRow() const;
   void SetCurrentRow(short row);
-  ///@}
+  /// @}
   /// Property RowCount (read-only): the rows in the list, blank ones included.
   short RowCount() const;
   /// Property TotalAmount (read-only): the sum of the amounts in dollars (the Canadian

@@ -67,35 +67,35 @@ class PaymentDetails : public ControlWidget {
   /// "Amount" (zenta::Currency in dollars; its QString form is "113.00"); empty until a split
   /// is accepted.
   Q_INVOKABLE QVariantList Distributions() const;
+  /// @{
 
-  ///@{
   /// Property PaymentAmount: the payment in dollars. Set by the host it is taken as given
   /// (never read as cents) and the net expense follows.
   Currency PaymentAmount() const;
   void SetPaymentAmount(Currency value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property GST: the GST/HST part of the payment in dollars (business mode); the net expense
   /// follows.
   Currency GST() const;
   void SetGST(Currency value);
-  ///@}
+  /// @}
   /// Property NetExpense (read-only): the payment less its GST/HST, in dollars; the amount a
   /// business payer splits.
   Currency NetExpense() const;
   /// Property PaymentFor (read-only): what the payment is for, as the distribution window set it.
   QString PaymentFor() const;
-  ///@{
+  /// @{
   /// Property DefaultGLAccount: the G/L account the distribution window proposes for a new line.
   QString DefaultGLAccount() const;
   void SetDefaultGLAccount(const QString& account);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property LockFields: whether the two amount cells refuse the payer's keys (each refused
   /// key raises KeypressLockedField()); designable, default false.
   bool LockFields() const;
   void SetLockFields(bool locked);
-  ///@}
+  /// @}
   /// The setter a Designer form's generated code calls for LockFields.
   void setLockFields(bool locked) { SetLockFields(locked); }
 

@@ -59,54 +59,54 @@ class PmtDetails : public ControlWidget {
   Q_INVOKABLE void SetFocusInvoiceNumber();  ///< Puts the focus in the invoice number.
   Q_INVOKABLE void SetFocusInvoiceAmount();  ///< Puts the focus in the invoice amount.
   Q_INVOKABLE void SetFocusGSTAmount();      ///< Puts the focus in the GST/HST amount.
+  /// @{
 
-  ///@{
   /// Property InvoiceDate: the invoice's date; a null QDate is no date. A date outside years
   /// 100 to 9999 raises 0x80040015 (source "dtInvoiceDate") and keeps the date.
   QDate InvoiceDate() const;
   void SetInvoiceDate(const QDate& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property InvoiceNumber: the invoice's number or description, at most 255 characters.
   QString InvoiceNumber() const;
   void SetInvoiceNumber(const QString& value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property InvoiceAmount: the invoice amount in dollars, as a float (0 when empty). NaN,
   /// infinity or an amount past the currency range raises Overflow (6) and keeps the amount.
   float InvoiceAmount() const;
   void SetInvoiceAmount(float value);
-  ///@}
+  /// @}
   /// Property InvoiceAmountCurrency (read-only): the invoice amount exact, the one to book.
   Currency InvoiceAmountCurrency() const;
-  ///@{
+  /// @{
   /// Property GSTAmount: the GST/HST part of the invoice in dollars, as a float; errors as
   /// InvoiceAmount.
   float GSTAmount() const;
   void SetGSTAmount(float value);
-  ///@}
+  /// @}
   /// Property GSTAmountCurrency (read-only): the GST/HST amount exact, the one to book.
   Currency GSTAmountCurrency() const;
-  ///@{
+  /// @{
   /// Property InvoiceDateEnabled: whether the payer can type the date.
   bool InvoiceDateEnabled() const;
   void SetInvoiceDateEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property InvoiceNumberEnabled: whether the payer can type the number.
   bool InvoiceNumberEnabled() const;
   void SetInvoiceNumberEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property InvoiceAmountEnabled: whether the payer can type the amount.
   bool InvoiceAmountEnabled() const;
   void SetInvoiceAmountEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property GSTAmountEnabled: whether the payer can type the GST/HST amount.
   bool GSTAmountEnabled() const;
   void SetGSTAmountEnabled(bool enabled);
-  ///@}
+  /// @}
 
   /// The control logic, for C++ hosts that want its errors thrown as zenta::HostError rather
   /// than signalled: include "zenta/controls/simple/pmt_details.h" to use it.

@@ -50,30 +50,30 @@ class StdPayment : public ControlWidget {
   Q_INVOKABLE void SetFocusPaymentAmount();
   /// Puts the focus in the GST/HST amount (shown in business mode only).
   Q_INVOKABLE void SetFocusGSTAmount();
+  /// @{
 
-  ///@{
   /// Property PaymentAmount: the payment in dollars, as a float (0 when empty). Setting NaN,
   /// infinity or an amount past the currency range raises Overflow (6) and keeps the amount.
   float PaymentAmount() const;
   void SetPaymentAmount(float value);
-  ///@}
+  /// @}
   /// Property PaymentAmountCurrency (read-only): the payment amount exact, the one to book.
   Currency PaymentAmountCurrency() const;
-  ///@{
+  /// @{
   /// Property GSTAmount: the GST/HST part of the payment in dollars, exact.
   Currency GSTAmount() const;
   void SetGSTAmount(Currency value);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property PaymentAmountEnabled: whether the payer can type the payment amount.
   bool PaymentAmountEnabled() const;
   void SetPaymentAmountEnabled(bool enabled);
-  ///@}
-  ///@{
+  /// @}
+  /// @{
   /// Property GSTAmountEnabled: whether the payer can type the GST/HST amount.
   bool GSTAmountEnabled() const;
   void SetGSTAmountEnabled(bool enabled);
-  ///@}
+  /// @}
 
   /// The control logic, for C++ hosts that want its errors thrown as zenta::HostError rather
   /// than signalled: include "zenta/controls/simple/std_payment.h" to use it.
