@@ -2,6 +2,10 @@
 # build/reference/html. Doxygen reads the documented public headers only, and any warning (a
 # public member without documentation among them) fails the build.
 include(${CMAKE_CURRENT_LIST_DIR}/ZentaPublicHeaders.cmake)
+# A host that adds this tree gets no target of that name in its own build.
+if(NOT PROJECT_IS_TOP_LEVEL)
+  return()
+endif()
 find_program(ZENTA_DOXYGEN doxygen)
 if(NOT ZENTA_DOXYGEN)
   return()
