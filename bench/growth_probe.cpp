@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/toolkit/qt_dialog_surface.h"
 

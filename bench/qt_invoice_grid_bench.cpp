@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_dialog_surface.h"

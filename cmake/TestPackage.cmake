@@ -7,6 +7,36 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_
 if(failed)
   message(FATAL_ERROR "install failed")
 endif()
+# Every installed header compiles from the installed tree alone: a public header that includes
+# one left out of the package fails here, not in a host's build.
+file(GLOB_RECURSE installed_headers RELATIVE ${WORK_DIR}/prefix/include ${WORK_DIR}/prefix/include/zenta/*.h)
+list(LENGTH installed_headers header_count)
+message(STATUS "${header_count} headers installed")
+set(all_headers "")
+foreach(header IN LISTS installed_headers)
+  string(APPEND all_headers "#include \"${header}\"\n")
+endforeach()
+file(WRITE ${WORK_DIR}/headers/all_headers.cpp "${all_headers}")
+file(WRITE ${WORK_DIR}/headers/CMakeLists.txt [[
+cmake_minimum_required(VERSION 3.22)
+project(ZentaHeaders LANGUAGES CXX)
+set(CMAKE_CXX_STANDARD 20)
+find_package(ZentaDataEntry REQUIRED)
+find_package(Qt6 REQUIRED COMPONENTS Widgets Test)
+add_library(all_headers OBJECT all_headers.cpp)
+target_link_libraries(all_headers PRIVATE ZentaDataEntry::Qt ZentaDataEntry::Headless ZentaDataEntry::ControlsSimple
+                                          ZentaDataEntry::PaymentDetails ZentaDataEntry::InvoiceEntry Qt6::Test)
+]])
+execute_process(COMMAND ${CMAKE_COMMAND} -S ${WORK_DIR}/headers -B ${WORK_DIR}/headers/build -G Ninja
+                        -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix
+                RESULT_VARIABLE failed OUTPUT_QUIET)
+if(NOT failed)
+  execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}/headers/build RESULT_VARIABLE failed)
+endif()
+if(failed)
+  message(FATAL_ERROR "an installed header does not compile from the installed tree")
+endif()
+
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${EXAMPLE_DIR} -B ${WORK_DIR}/example -G Ninja
                         -DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix -Wdev --warn-uninitialized
                 RESULT_VARIABLE failed OUTPUT_VARIABLE out ERROR_VARIABLE err)

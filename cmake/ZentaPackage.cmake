@@ -32,8 +32,11 @@ set(zenta_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZentaDataEntry)
 install(TARGETS ${zenta_exported} EXPORT ZentaDataEntryTargets
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
         INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/zenta DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-        FILES_MATCHING PATTERN "*.h" PATTERN "designer" EXCLUDE)
+include(${CMAKE_CURRENT_LIST_DIR}/ZentaPublicHeaders.cmake)
+foreach(header IN LISTS ZENTA_PUBLIC_HEADERS)
+  get_filename_component(folder ${header} DIRECTORY)
+  install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+endforeach()
 if(TARGET zenta_designer_plugin)
   install(TARGETS zenta_designer_plugin LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/qt6/plugins/designer)
 endif()

@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "apps/demo/demo_window.h"
+#include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/qt/chart_of_accounts.h"
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/invoice_entry.h"
@@ -22,6 +23,7 @@
 #include "zenta/records/cls_distributions.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_dialog_surface.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 

@@ -16,6 +16,7 @@
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 
 namespace zenta::demo {

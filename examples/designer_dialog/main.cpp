@@ -15,8 +15,10 @@ int main(int argc, char* argv[]) {
     invoice.SetInvoiceNumber("INV-42");
     invoice.SetInvoiceAmount(112.99f);
     invoice.SetGSTAmount(13.0f);
-    QTextStream(stdout) << dialog.Summary() << '\n';
-    return invoice.InvoiceAmountCurrency() == zenta::Currency::FromText("112.99") ? 0 : 1;
+    const QString summary = dialog.Summary();
+    QTextStream(stdout) << summary << '\n';
+    const bool booked = invoice.InvoiceAmountCurrency() == zenta::Currency::FromText("112.99");
+    return booked && summary == "2026/03/15 INV-42 112.99 GST/HST 13.00" ? 0 : 1;
   }
   return dialog.exec() == QDialog::Accepted ? 0 : 1;
 }

@@ -23,7 +23,8 @@ void PaymentDialog::UpdateOk() {
 
 QString PaymentDialog::Summary() const {
   const zenta::qt::PmtDetails& invoice = *ui_->invoice;
+  // An amount property reads as text with two decimals: "13.00", never "13".
   return QString("%1 %2 %3 GST/HST %4")
       .arg(invoice.InvoiceDate().toString("yyyy/MM/dd"), invoice.InvoiceNumber(),
-           zenta::qt::ToQString(invoice.InvoiceAmountCurrency()), zenta::qt::ToQString(invoice.GSTAmountCurrency()));
+           invoice.property("InvoiceAmountCurrency").toString(), invoice.property("GSTAmountCurrency").toString());
 }

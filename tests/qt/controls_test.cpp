@@ -81,8 +81,26 @@ class ControlsTest : public QObject {
     Press(Qt::Key_Tab);
     QCOMPARE(QApplication::focusWidget(), after_);
     QCOMPARE(left.count(), 1);
-    QCOMPARE(payment->property("GSTAmount").toString(), QString("0"));
+    QCOMPARE(payment->property("GSTAmount").toString(), QString("0.00"));
     QCOMPARE(Shown(*payment, "txtGSTAmount"), QString("0.00"));
+  }
+
+  // A host printing an amount property gets the cents, never "113" for 113.00, and nothing is
+  // rounded away; text converts back to the exact amount.
+  void amountsReadAsTextWithTwoDecimals() {
+    auto* payment = Place<StdPayment>();
+    QVERIFY(payment);
+    const auto text = [](const char* amount) {
+      return QVariant::fromValue(Currency::FromText(amount)).toString();
+    };
+    QCOMPARE(text("113"), QString("113.00"));
+    QCOMPARE(text("-0.05"), QString("-0.05"));
+    QCOMPARE(text("0.0125"), QString("0.0125"));
+    QCOMPARE(text("922337203685477.5807"), QString("922337203685477.5807"));
+    payment->SetGSTAmount(Currency::FromText("13"));
+    QCOMPARE(payment->property("GSTAmount").toString(), QString("13.00"));
+    QVERIFY(payment->setProperty("GSTAmount", QString("12.50")));
+    QCOMPARE(payment->GSTAmount(), Currency::FromText("12.5"));
   }
 
   void enterMovesOnButShiftEnterDoesNot() {

@@ -1,12 +1,59 @@
+#include <QCoreApplication>
+#include <QFile>
+#include <QMetaProperty>
 #include <QPluginLoader>
 #include <QTest>
+#include <QXmlStreamReader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
-// Loads the Designer plugin as Designer does and checks that it offers every control.
+#include "ui_designer_form.h"
+#include "zenta/qt/govt_details.h"
+#include "zenta/qt/invoice_entry.h"
+#include "zenta/qt/payment_details.h"
+#include "zenta/qt/pmt_details.h"
+#include "zenta/qt/std_payment.h"
+
+namespace {
+
+// The designable properties a class adds to QWidget's, in declaration order.
+QStringList DesignableProperties(const QMetaObject& meta) {
+  QStringList names;
+  for (int i = QWidget::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {
+    const QMetaProperty property = meta.property(i);
+    if (property.isDesignable() && property.isWritable()) names << property.name();
+  }
+  return names;
+}
+
+// The properties the test form sets on the widget named `object`.
+QStringList FormProperties(const QString& object) {
+  QFile file(QStringLiteral(ZENTA_DESIGNER_FORM));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  QXmlStreamReader xml(&file);
+  QStringList names;
+  bool inside = false;
+  while (!xml.atEnd()) {
+    xml.readNext();
+    if (xml.isStartElement() && xml.name() == u"widget") inside = xml.attributes().value("name") == object;
+    if (inside && xml.isStartElement() && xml.name() == u"property") names << xml.attributes().value("name").toString();
+  }
+  return names;
+}
+
+}  // namespace
+
+// Loads the Designer plugin as Designer does and checks that it offers every control, and that
+// a form drawn with every designable property compiles and sets them.
 class DesignerPluginTest : public QObject {
   Q_OBJECT
 
  private slots:
+  void initTestCase() {
+    // Without the image and icon-engine plugins, as in a Designer built without Qt's SVG
+    // support: the icons must still draw.
+    QCoreApplication::setLibraryPaths({});
+  }
+
   void offersEveryControl() {
     QPluginLoader loader(ZENTA_DESIGNER_PLUGIN);
     QObject* instance = loader.instance();
@@ -16,8 +63,8 @@ class DesignerPluginTest : public QObject {
     QStringList names, shown;
     for (QDesignerCustomWidgetInterface* widget : collection->customWidgets()) {
       names << widget->name();
-      // The icons are SVG: they draw only when the SVG icon engine is installed.
-      QVERIFY(!widget->icon().pixmap(32).isNull());
+      QVERIFY2(!widget->icon().pixmap(32).isNull(), qPrintable(widget->name()));
+      QVERIFY2(!widget->icon().pixmap(64).isNull(), qPrintable(widget->name()));
       QVERIFY(!widget->toolTip().isEmpty());
       QVERIFY(!widget->whatsThis().isEmpty());
       shown << widget->domXml().section("displayname=\"", 1).section('"', 0, 0);
@@ -30,6 +77,43 @@ class DesignerPluginTest : public QObject {
                                    "zenta::qt::PaymentDetails", "zenta::qt::InvoiceEntry"}));
     QCOMPARE(shown, QStringList({"Payment Amount", "Invoice Details", "Government Remittance", "Payment Details",
                                   "Invoice Entry"}));
+  }
+
+  // The form sets every designable property of each control; a property without a setter the
+  // generated code can call would not have compiled.
+  void formSetsEveryDesignableProperty() {
+    const std::pair<const char*, const QMetaObject*> controls[] = {
+        {"payment", &zenta::qt::StdPayment::staticMetaObject},
+        {"invoice", &zenta::qt::PmtDetails::staticMetaObject},
+        {"remittance", &zenta::qt::GovtDetails::staticMetaObject},
+        {"split", &zenta::qt::PaymentDetails::staticMetaObject},
+        {"invoices", &zenta::qt::InvoiceEntry::staticMetaObject}};
+    for (const auto& [object, meta] : controls) {
+      QStringList designable = DesignableProperties(*meta), set = FormProperties(object);
+      designable.sort();
+      set.sort();
+      QCOMPARE(set, designable);
+    }
+  }
+
+  void formValuesReachTheControls() {
+    QWidget form;
+    Ui::DesignerForm ui;
+    ui.setupUi(&form);
+    QCOMPARE(ui.payment->BackColor(), QColor(0x12, 0x34, 0x56));
+    QCOMPARE(ui.payment->BackColorTitle(), QColor(0xAB, 0xCD, 0xEF));
+    QVERIFY(ui.payment->BusinessMode());
+    QVERIFY(!ui.payment->Enabled());
+    QVERIFY(!ui.remittance->isEnabled());
+    QVERIFY(ui.split->LockFields());
+    QCOMPARE(ui.invoices->BackColorGridHeader(), QColor(0x10, 0x20, 0x30));
+    QCOMPARE(ui.invoices->BackColorGridFooter(), QColor(0x40, 0x50, 0x60));
+    QCOMPARE(ui.invoices->ForeColorGridHeader(), QColor(0x70, 0x80, 0x90));
+    QCOMPARE(ui.invoices->ForeColorGridFooter(), QColor(0xA0, 0xB0, 0xC0));
+    QCOMPARE(ui.invoices->RowColorEven(), QColor(0xD0, 0xE0, 0xF0));
+    QCOMPARE(ui.invoices->RowColorOdd(), QColor(0x0F, 0x1F, 0x2F));
+    QCOMPARE(ui.invoices->DefaultGLAccount(), QString("5100-OFFICE"));
+    QVERIFY(ui.invoices->BusinessMode());
   }
 };
 

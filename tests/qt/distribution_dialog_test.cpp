@@ -9,6 +9,7 @@
 
 #include "tests/qt/host_window.h"
 #include "zenta/controls/distribution/library_context.h"
+#include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/qt/application_context.h"
 #include "zenta/platform/array_2d.h"
 #include "tests/qt/distribution_lines.h"

@@ -4,6 +4,7 @@
 #include <QVariantMap>
 
 #include "zenta/qt/payment_details.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 
 namespace zenta::qt::testing {
 

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "tests/qt/host_window.h"

@@ -7,6 +7,7 @@
 
 #include "tests/qt/host_window.h"
 #include "tests/qt/key_input.h"
+#include "zenta/controls/simple/std_payment.h"
 #include "zenta/qt/std_payment.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 

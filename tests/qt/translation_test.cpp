@@ -3,6 +3,9 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "zenta/controls/invoice_entry/invoice_entry.h"
+#include "zenta/controls/payment_details/payment_details.h"
+#include "zenta/controls/simple/pmt_details.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/pmt_details.h"

@@ -12,6 +12,8 @@
 #include <exception>
 
 #include "zenta/core/host_error.h"
+#include "zenta/platform/raised_event.h"
+#include "zenta/qt/control_binding.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_number_edit.h"
@@ -63,6 +65,8 @@ void ControlWidget::DestroySurface() {
   delete surface_;
   surface_ = nullptr;
 }
+
+void ControlWidget::DetachControl() { control_.reset(); }
 
 void ControlWidget::Attach(std::unique_ptr<ControlBinding> binding) {
   control_ = std::move(binding);

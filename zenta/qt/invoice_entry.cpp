@@ -9,9 +9,12 @@
 #include <map>
 #include <memory>
 
+#include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/qt/application_context.h"
+#include "zenta/qt/control_binding.h"
 #include "zenta/qt/invoice_line_list.h"
 #include "zenta/qt/toolkit/qt_grid_view.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 #include "zenta/qt/toolkit/twips_layout.h"

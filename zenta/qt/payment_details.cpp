@@ -4,7 +4,10 @@
 #include <QVariantMap>
 
 #include "zenta/controls/distribution/library_context.h"
+#include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/qt/application_context.h"
+#include "zenta/qt/control_binding.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 #include "zenta/qt/toolkit/ui_text.h"

@@ -1,5 +1,8 @@
 #include "zenta/qt/std_payment.h"
 
+#include "zenta/controls/simple/std_payment.h"
+#include "zenta/qt/control_binding.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 #include "zenta/qt/toolkit/qt_host.h"
 #include "zenta/qt/toolkit/qt_surface.h"
 

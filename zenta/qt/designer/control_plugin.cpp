@@ -7,7 +7,13 @@ namespace zenta::qt {
 ControlPlugin::ControlPlugin(Description description, std::function<QWidget*(QWidget*)> factory, QObject* parent)
     : QObject(parent), description_(std::move(description)), factory_(std::move(factory)) {}
 
-QIcon ControlPlugin::icon() const { return QIcon(description_.icon); }
+// PNG, at the widget box's size and twice it: an SVG icon needs Qt's SVG plugins, and a Designer
+// without them would show the generic icon.
+QIcon ControlPlugin::icon() const {
+  QIcon icon(description_.icon);
+  icon.addFile(QString(description_.icon).replace(".png", "@2x.png"));
+  return icon;
+}
 
 QString ControlPlugin::domXml() const {
   // The object name a new instance gets on the form: the class name without its namespace.

@@ -18,7 +18,7 @@ class ControlPlugin : public QObject, public QDesignerCustomWidgetInterface {
     QString header;
     QString tooltip;
     QString whats_this;
-    QString icon;
+    QString icon;  // a 32-pixel PNG resource, with its 64-pixel "@2x" twin beside it
   };
 
   ControlPlugin(Description description, std::function<QWidget*(QWidget*)> factory, QObject* parent);

@@ -8,6 +8,8 @@
 #include <limits>
 #include <mutex>
 
+#include "zenta/core/number_format.h"
+
 namespace zenta::qt {
 
 namespace {
@@ -185,7 +187,9 @@ void RegisterMetaTypes() {
   std::call_once(once, [] {
     qRegisterMetaType<Currency>("zenta::Currency");
     qRegisterMetaType<ObjectRef>("zenta::ObjectRef");
-    QMetaType::registerConverter<Currency, QString>([](const Currency& c) { return ToQString(c); });
+    // What a host prints: "113.00", never "113"; decimals past the cent are kept, not rounded.
+    QMetaType::registerConverter<Currency, QString>(
+        [](const Currency& c) { return QString::fromStdString(FormatNumber(c, "0.00##")); });
     QMetaType::registerConverter<Currency, double>([](const Currency& c) { return c.ToDouble(); });
     // Malformed or out-of-range text fails the conversion, so setProperty refuses it.
     QMetaType::registerConverterFunction(

@@ -14,9 +14,7 @@
 #include "zenta/core/date.h"
 #include "zenta/core/ole_color.h"
 #include "zenta/core/variant.h"
-
-Q_DECLARE_METATYPE(zenta::Currency)
-Q_DECLARE_METATYPE(zenta::ObjectRef)
+#include "zenta/qt/metatypes.h"
 
 namespace zenta::qt {
 
@@ -57,8 +55,5 @@ OleColor FromQColor(const QColor& color);
 QColor ReadableTextOn(const QColor& back);
 // The palette role a system colour stands for, or nullopt for an RGB colour.
 std::optional<QPalette::ColorRole> PaletteRoleOf(OleColor color);
-
-// Registers the metatypes above and the Currency converters; cheap to call again.
-void RegisterMetaTypes();
 
 }  // namespace zenta::qt
