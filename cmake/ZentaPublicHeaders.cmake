@@ -6,13 +6,15 @@
 set(ZENTA_PUBLIC_HEADERS
   zenta/qt/application_context.h zenta/qt/control_widget.h zenta/qt/govt_details.h
   zenta/qt/invoice_entry.h zenta/qt/metatypes.h zenta/qt/payment_details.h zenta/qt/pmt_details.h
-  zenta/qt/std_payment.h zenta/qt/translator.h
+  zenta/qt/std_payment.h zenta/qt/translator.h zenta/qt/chart_of_accounts.h
   zenta/qt/testing/modal_scripts.h
   zenta/qt/toolkit/qt_dialog_surface.h zenta/qt/toolkit/twips_layout.h
   zenta/core/currency.h zenta/core/date.h zenta/core/date_format.h zenta/core/date_mask.h
   zenta/core/decimal.h zenta/core/host_error.h zenta/core/number_format.h zenta/core/ole_color.h
   zenta/core/rate.h zenta/core/utf8.h zenta/core/variant.h
   zenta/records/cls_distribution.h zenta/records/cls_distributions.h zenta/records/cls_invoice.h
+  zenta/records/distribution_source.h zenta/records/gl_account.h zenta/records/account_index.h
+  zenta/records/chart_of_accounts.h
   zenta/platform/headless/button_widget.h zenta/platform/headless/check_box_widget.h
   zenta/platform/headless/child_lookup.h zenta/platform/headless/date_edit_widget.h
   zenta/platform/headless/decoration_widget.h zenta/platform/headless/dialog.h
@@ -30,7 +32,8 @@ set(ZENTA_PUBLIC_HEADERS
   zenta/platform/keys.h zenta/platform/label.h zenta/platform/lifetime.h
   zenta/platform/message_box.h zenta/platform/number_edit.h zenta/platform/property_bag.h
   zenta/platform/raised_event.h zenta/platform/text_box.h zenta/platform/widget.h
-  zenta/entry/common_properties.h
+  zenta/entry/common_properties.h zenta/entry/gst_hst_cell.h zenta/entry/gst_hst_settings.h
+  zenta/entry/gst_hst_table.h zenta/entry/undo_history.h
   zenta/controls/simple/amount_gst_pair.h zenta/controls/simple/govt_details.h
   zenta/controls/simple/govt_items_table.h zenta/controls/simple/pmt_details.h
   zenta/controls/simple/small_control.h zenta/controls/simple/std_payment.h
@@ -39,9 +42,11 @@ set(ZENTA_PUBLIC_HEADERS
   zenta/controls/invoice_entry/invoice_entry.h zenta/controls/invoice_entry/invoice_events.h
   zenta/controls/invoice_entry/invoice_lines_source.h
   zenta/controls/invoice_entry/invoice_properties.h zenta/controls/invoice_entry/invoice_store.h
+  zenta/controls/invoice_entry/invoice_line_block.h
   zenta/controls/distribution/distribution_model.h
   zenta/controls/distribution/distribution_opener.h zenta/controls/distribution/frm_distribution.h
-  zenta/controls/distribution/library_context.h
+  zenta/controls/distribution/library_context.h zenta/controls/distribution/account_chart.h
+  zenta/controls/distribution/account_completion.h
 )
 
 # What the API reference documents, every member: the Qt classes, the value types and records
@@ -49,6 +54,6 @@ set(ZENTA_PUBLIC_HEADERS
 set(ZENTA_REFERENCE_HEADERS
   zenta/qt/application_context.h zenta/qt/control_widget.h zenta/qt/govt_details.h
   zenta/qt/invoice_entry.h zenta/qt/metatypes.h zenta/qt/payment_details.h zenta/qt/pmt_details.h
-  zenta/qt/std_payment.h zenta/qt/translator.h
+  zenta/qt/std_payment.h zenta/qt/translator.h zenta/qt/chart_of_accounts.h
   zenta/core/currency.h zenta/core/host_error.h zenta/core/number_format.h
   zenta/records/cls_distribution.h zenta/records/cls_distributions.h zenta/records/cls_invoice.h)

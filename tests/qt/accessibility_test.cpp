@@ -13,6 +13,7 @@
 #include "zenta/qt/pmt_details.h"
 #include "zenta/qt/std_payment.h"
 #include "zenta/qt/testing/modal_scripts.h"
+#include "zenta/qt/toolkit/qt_conversions.h"
 
 namespace zenta::qt {
 

@@ -8,6 +8,8 @@
 
 #include "tests/qt/distribution_lines.h"
 #include "tests/qt/host_window.h"
+#include "zenta/controls/payment_details/payment_details.h"
+#include "zenta/records/cls_distributions.h"
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/chart_of_accounts.h"
 #include "zenta/qt/payment_details.h"
