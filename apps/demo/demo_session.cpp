@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "apps/demo/demo_window.h"
+#include "apps/demo/money_text.h"
 #include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/qt/chart_of_accounts.h"
 #include "zenta/qt/govt_details.h"
@@ -134,7 +135,7 @@ void DemoSession::PlaySplitWithRefusal() {
   for (const QVariant& line : details.Distributions()) {
     const QVariantMap map = line.toMap();
     notes_ << QString("Accepted line: %1 %2").arg(map.value("GLAccount").toString(),
-                                                 qt::ToQString(map.value("Amount").value<Currency>()));
+                                                 MoneyText(map.value("Amount").value<Currency>()));
   }
 }
 
@@ -189,12 +190,12 @@ void DemoSession::PlayInvoiceList() {
 
   notes_ << QString("InvoiceEntry1.InvoiceCount = %1, TotalAmount = %2, TotalGST = %3, TotalExpense = %4")
                 .arg(invoices.InvoiceCount())
-                .arg(qt::ToQString(invoices.TotalAmount()), qt::ToQString(invoices.TotalGST()),
-                     qt::ToQString(invoices.TotalExpense()));
+                .arg(MoneyText(invoices.TotalAmount()), MoneyText(invoices.TotalGST()),
+                     MoneyText(invoices.TotalExpense()));
   for (const QVariant& line : invoices.InvoiceValues(1).value("Distributions").toList()) {
     const QVariantMap map = line.toMap();
     notes_ << QString("InvoiceEntry1.InvoiceValues(1) line: %1 %2")
-                  .arg(map.value("GLAccount").toString(), qt::ToQString(map.value("Amount").value<Currency>()));
+                  .arg(map.value("GLAccount").toString(), MoneyText(map.value("Amount").value<Currency>()));
   }
   QString reason;
   bool incomplete = false;
@@ -219,7 +220,7 @@ void DemoSession::PlayInvoicePaste() {
   notes_ << QString("Pasted: InvoiceEntry1.RowCount %1 -> %2, TotalAmount = %3")
                 .arg(before)
                 .arg(invoices.RowCount())
-                .arg(qt::ToQString(invoices.TotalAmount()));
+                .arg(MoneyText(invoices.TotalAmount()));
   ClickCell(grid, before + 1, 2);
   qt::testing::AnswerNextMessage(QMessageBox::Yes);
   Press(Qt::Key_Delete, Qt::ControlModifier);
@@ -271,12 +272,12 @@ void DemoSession::PlayChartAndTax() {
   CheckOpened(split, "The invoice split from the chart");
   const QVariantMap invoice = invoices.InvoiceValues(invoices.RowCount());
   notes_ << QString("GST/HST filled with F8 at 13 %: %1 of %2")
-                .arg(qt::ToQString(invoice.value("GSTAmount").value<Currency>()),
-                     qt::ToQString(invoice.value("InvoiceAmount").value<Currency>()));
+                .arg(MoneyText(invoice.value("GSTAmount").value<Currency>()),
+                     MoneyText(invoice.value("InvoiceAmount").value<Currency>()));
   for (const QVariant& line : invoice.value("Distributions").toList()) {
     const QVariantMap map = line.toMap();
     notes_ << QString("Line taken from the chart: %1 %2")
-                  .arg(map.value("GLAccount").toString(), qt::ToQString(map.value("Amount").value<Currency>()));
+                  .arg(map.value("GLAccount").toString(), MoneyText(map.value("Amount").value<Currency>()));
   }
 }
 

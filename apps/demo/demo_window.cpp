@@ -1,4 +1,5 @@
 #include "apps/demo/demo_window.h"
+#include "apps/demo/money_text.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -121,14 +122,14 @@ QStringList DemoWindow::HostValues() const {
   QStringList lines;
   lines << QString("StdPayment1.BusinessMode = %1").arg(payment_->BusinessMode() ? "True" : "False")
         << QString("StdPayment1.PaymentAmount = %1").arg(payment_->PaymentAmount(), 0, 'f', 2)
-        << QString("StdPayment1.PaymentAmountCurrency = %1").arg(qt::ToQString(payment_->PaymentAmountCurrency()))
+        << QString("StdPayment1.PaymentAmountCurrency = %1").arg(MoneyText(payment_->PaymentAmountCurrency()))
         << QString("StdPayment1.GSTAmount = %1").arg(QString::fromStdString(payment_->GSTAmount().ToString()))
         << QString("PmtDetails1.InvoiceDate = %1").arg(DateText(invoice_->InvoiceDate()))
         << QString("PmtDetails1.InvoiceNumber = \"%1\"").arg(invoice_->InvoiceNumber())
         << QString("PmtDetails1.InvoiceAmount = %1").arg(invoice_->InvoiceAmount(), 0, 'f', 2)
-        << QString("PmtDetails1.InvoiceAmountCurrency = %1").arg(qt::ToQString(invoice_->InvoiceAmountCurrency()))
+        << QString("PmtDetails1.InvoiceAmountCurrency = %1").arg(MoneyText(invoice_->InvoiceAmountCurrency()))
         << QString("PmtDetails1.GSTAmount = %1").arg(invoice_->GSTAmount(), 0, 'f', 2)
-        << QString("PmtDetails1.GSTAmountCurrency = %1").arg(qt::ToQString(invoice_->GSTAmountCurrency()))
+        << QString("PmtDetails1.GSTAmountCurrency = %1").arg(MoneyText(invoice_->GSTAmountCurrency()))
         << QString("GovtDetails1.StatementOnly = %1").arg(remittance_->StatementOnly().toInt())
         << QString("GovtDetails1.PeriodFrom = %1").arg(DateText(remittance_->PeriodFrom()))
         << QString("GovtDetails1.PeriodTo = %1").arg(DateText(remittance_->PeriodTo()))
@@ -137,22 +138,22 @@ QStringList DemoWindow::HostValues() const {
         << QString("GovtDetails1.OtherAmount = %1").arg(AmountText(remittance_->OtherAmount()))
         << QString("GovtDetails1.Comments = \"%1\"").arg(remittance_->Comments())
         << QString("GovtDetails1.GridNumberofRows = %1").arg(remittance_->GridNumberofRows());
-  lines << QString("PaymentDetails1.PaymentAmount = %1").arg(qt::ToQString(details_->PaymentAmount()))
-        << QString("PaymentDetails1.GST = %1").arg(qt::ToQString(details_->GST()))
-        << QString("PaymentDetails1.NetExpense = %1").arg(qt::ToQString(details_->NetExpense()))
+  lines << QString("PaymentDetails1.PaymentAmount = %1").arg(MoneyText(details_->PaymentAmount()))
+        << QString("PaymentDetails1.GST = %1").arg(MoneyText(details_->GST()))
+        << QString("PaymentDetails1.NetExpense = %1").arg(MoneyText(details_->NetExpense()))
         << QString("PaymentDetails1.PaymentFor = \"%1\"").arg(details_->PaymentFor())
         << QString("PaymentDetails1.LockFields = %1").arg(details_->LockFields() ? "True" : "False");
   lines << QString("InvoiceEntry1.RowCount = %1").arg(invoices_->RowCount())
         << QString("InvoiceEntry1.InvoiceCount = %1").arg(invoices_->InvoiceCount())
-        << QString("InvoiceEntry1.TotalAmount = %1").arg(qt::ToQString(invoices_->TotalAmount()))
-        << QString("InvoiceEntry1.TotalGST = %1").arg(qt::ToQString(invoices_->TotalGST()))
-        << QString("InvoiceEntry1.TotalExpense = %1").arg(qt::ToQString(invoices_->TotalExpense()));
+        << QString("InvoiceEntry1.TotalAmount = %1").arg(MoneyText(invoices_->TotalAmount()))
+        << QString("InvoiceEntry1.TotalGST = %1").arg(MoneyText(invoices_->TotalGST()))
+        << QString("InvoiceEntry1.TotalExpense = %1").arg(MoneyText(invoices_->TotalExpense()));
   int position = 0;
   for (const QVariant& line : details_->Distributions()) {
     const QVariantMap map = line.toMap();
     lines << QString("PaymentDetails1.PayDistribution(%1) = %2 %3")
                  .arg(++position)
-                 .arg(map.value("GLAccount").toString(), qt::ToQString(map.value("Amount").value<Currency>()));
+                 .arg(map.value("GLAccount").toString(), MoneyText(map.value("Amount").value<Currency>()));
   }
   // Reading an item makes its row current: leave the grid alone while the payer is in it.
   std::string active = remittance_->Surface().ActiveChildName();
