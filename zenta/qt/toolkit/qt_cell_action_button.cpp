@@ -25,8 +25,14 @@ CellActionButton::CellActionButton(QTableView& grid, platform::GridEngine& engin
 void CellActionButton::Refresh() {
   const platform::CellActionArgs action = engine_.CurrentCellAction();
   key_ = action.key;
+  // Asked first: visualRect lays out a grid whose rows changed, which a host adding rows in a
+  // loop must not pay for on every call.
+  if (key_ == 0) {
+    hide();
+    return;
+  }
   const QRect cell = grid_.visualRect(grid_.currentIndex());
-  if (key_ == 0 || !cell.isValid()) {
+  if (!cell.isValid()) {
     hide();
     return;
   }
