@@ -65,13 +65,11 @@ bool TypeOver(QtGridView& view, int row, int column, const QString& text) {
   return alive && engine.CommitEdit();
 }
 
-// A header or footer cell of a shown column.
-class AccessibleGridEdge : public QAccessibleInterface {
+// A part of a grid that has no widget or children of its own: a header, footer or cell.
+class AccessibleGridPart : public QAccessibleInterface {
  public:
-  enum class Edge { Header, Footer };
-  AccessibleGridEdge(QtGridView* view, int column, Edge edge) : view_(view), column_(column), edge_(edge) {}
+  explicit AccessibleGridPart(QtGridView* view) : view_(view) {}
 
-  bool isValid() const override { return view_ && column_ < view_->model()->columnCount(); }
   QObject* object() const override { return nullptr; }
   QWindow* window() const override { return view_ ? view_->window()->windowHandle() : nullptr; }
   QAccessibleInterface* parent() const override { return view_ ? GridInterface(view_) : nullptr; }
@@ -79,6 +77,18 @@ class AccessibleGridEdge : public QAccessibleInterface {
   QAccessibleInterface* childAt(int, int) const override { return nullptr; }
   int childCount() const override { return 0; }
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+ protected:
+  QPointer<QtGridView> view_;
+};
+
+// A header or footer cell of a shown column.
+class AccessibleGridEdge : public AccessibleGridPart {
+ public:
+  enum class Edge { Header, Footer };
+  AccessibleGridEdge(QtGridView* view, int column, Edge edge) : AccessibleGridPart(view), column_(column), edge_(edge) {}
+
+  bool isValid() const override { return view_ && column_ < view_->model()->columnCount(); }
   QAccessible::Role role() const override {
     return edge_ == Edge::Header ? QAccessible::ColumnHeader : QAccessible::StaticText;
   }
@@ -111,20 +121,19 @@ class AccessibleGridEdge : public QAccessibleInterface {
   Edge Part() const { return edge_; }
 
  private:
-  QPointer<QtGridView> view_;
   int column_;
   Edge edge_;
 };
 
 // A cell: a button, or text a person reads and types.
-class AccessibleGridCell : public QAccessibleInterface,
+class AccessibleGridCell : public AccessibleGridPart,
                            public QAccessibleTableCellInterface,
                            public QAccessibleActionInterface,
                            public QAccessibleTextInterface,
                            public QAccessibleEditableTextInterface,
                            public QAccessibleValueInterface {
  public:
-  AccessibleGridCell(QtGridView* view, int row, int column) : view_(view), row_(row), column_(column) {}
+  AccessibleGridCell(QtGridView* view, int row, int column) : AccessibleGridPart(view), row_(row), column_(column) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     switch (type) {
@@ -141,13 +150,6 @@ class AccessibleGridCell : public QAccessibleInterface,
   bool isValid() const override {
     return view_ && row_ < view_->model()->rowCount() && column_ < view_->model()->columnCount();
   }
-  QObject* object() const override { return nullptr; }
-  QWindow* window() const override { return view_ ? view_->window()->windowHandle() : nullptr; }
-  QAccessibleInterface* parent() const override { return view_ ? GridInterface(view_) : nullptr; }
-  QAccessibleInterface* child(int) const override { return nullptr; }
-  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-  int childCount() const override { return 0; }
-  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   QAccessible::Role role() const override { return IsButton() ? QAccessible::Button : QAccessible::Cell; }
 
   QAccessible::State state() const override {
@@ -297,7 +299,6 @@ class AccessibleGridCell : public QAccessibleInterface,
   }
   QString Shown() const { return isValid() && !IsButton() ? Index().data(Qt::DisplayRole).toString() : QString(); }
 
-  QPointer<QtGridView> view_;
   int row_;
   int column_;
 };
