@@ -45,6 +45,17 @@ TEST_F(InvoiceOverflowTest, AGSTTakingTheExpensePastTheRangeIsRefusedWithABeep) 
   EXPECT_EQ(control.InvoiceValues(1)->CompanyExpense, NearTheMaximum());
 }
 
+TEST_F(InvoiceOverflowTest, AnAmountTakingTheTotalPastTheRangeIsRefusedWithABeep) {
+  control.AddInvoice(Day(2026, 2, 1), "A", NearTheMaximum());
+  form.Settle();
+  user.ClickCell(Grid(), 1, InvoiceStore::kNumberColumn);
+  user.Type("B\t");
+  EXPECT_NO_THROW(user.Type("9999999\t"));
+  EXPECT_EQ(host.Beeps(), 1);
+  EXPECT_EQ(Reported(), std::vector<int>{kOverflow});
+  EXPECT_EQ(control.TotalAmount(), NearTheMaximum());
+}
+
 TEST_F(InvoiceOverflowTest, ARateNoAmountConvertsAtIsRefusedWhenSet) {
   control.SetCurrencyRate(1.5f);
   for (float rate : {std::nanf(""), std::numeric_limits<float>::infinity(), -3.4e38f}) {

@@ -387,7 +387,16 @@ void InvoiceEntry::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
   }
   if (args.column == Col::kAmountColumn) {
     const Variant typed = engine.CellValue(Col::kAmountColumn);
-    Currency amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
+    Currency amount;
+    try {
+      amount = TotalAmount() + (Text(typed).empty() ? Currency() : typed.ToCurrency());
+    } catch (const HostError& error) {
+      // A list whose total would pass the currency range takes no such amount.
+      host_.Beep();
+      host_.ReportError(error);
+      args.cancel = true;
+      return;
+    }
     const std::optional<bool> refused = events_.ValidateInvoiceAmountLimit(amount);
     if (!refused) {
       args.cancel = true;
