@@ -4,14 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "zenta/controls/distribution/library_context.h"
+#include "tests/controls/closable_control_screen.h"
 #include "zenta/controls/invoice_entry/invoice_entry.h"
-#include "zenta/platform/headless/button_widget.h"
-#include "zenta/platform/headless/dialog.h"
-#include "zenta/platform/headless/form.h"
-#include "zenta/platform/headless/host.h"
-#include "zenta/platform/headless/surface.h"
-#include "zenta/platform/headless/user.h"
 
 namespace zenta::testing {
 namespace {
@@ -20,54 +14,24 @@ Currency Money(const char* text) { return Currency::FromText(text); }
 Date Day(int y, int m, int d) { return *Date::FromYmd(y, m, d); }
 
 // A host's form whose invoice list the host may close at any moment.
-struct InvoiceLifetimeTest : ::testing::Test {
-  headless::Form form;
-  headless::Host host{form};
-  headless::User user{form};
-  LibraryContext context{host, [this] { return form.CreateDialog("frmDistribution"); }};
-  headless::Surface& surface = form.AddSurface("InvoiceEntry1");
-  std::unique_ptr<InvoiceEntry> control = std::make_unique<InvoiceEntry>(surface, host, context);
-
+struct InvoiceLifetimeTest : ClosableControlScreen<InvoiceEntry> {
+  InvoiceLifetimeTest() : ClosableControlScreen("InvoiceEntry1") {}
   void SetUp() override {
     host.SetToday(Day(2026, 3, 1));
     control->InitProperties();
-    form.AddHostField("txtNext");
-    form.Show();
-  }
-  FrmDistribution& Window() { return context.Distribution(); }
-  headless::Dialog& Dialog() { return dynamic_cast<headless::Dialog&>(Window().Surface()); }
-  void AcceptTheProposedSplit() {
-    form.ExpectDialog([this](headless::Dialog&) { user.Click(Dialog().Get<headless::ButtonWidget>("cmdGLAccept")); });
-  }
-  void CloseOn(const std::string& name) {
-    host.OnEvent([this, name](platform::RaisedEvent& event) {
-      if (event.name == name) control.reset();
-    });
+    ShowForm();
   }
   // A payer types one invoice and tabs past its amount into the window.
   void TypeInvoice() {
     user.ClickCell(control->grInvoices(), 0, InvoiceStore::kDateColumn);
     user.Type("20260201\tINV-1\t1250\t");
   }
-  void KeepTyping() {
-    user.Type("12\t");
-    user.PressEnter();
-    user.PressTab();
-  }
 };
 
 TEST_F(InvoiceLifetimeTest, ClosedWhileItsWindowIsOpenTheWindowClosesAsCancelled) {
   control->AddInvoice(Day(2026, 2, 1), "INV-1", Money("100"));
   control->SetCurrentRow(1);
-  form.ExpectDialog([&](headless::Dialog&) {
-    user.Type("5100\t");
-    control.reset();
-    EXPECT_FALSE(Dialog().IsShown());
-  });
-  control->ShowDistribution();
-  EXPECT_EQ(control, nullptr);
-  EXPECT_FALSE(Window().Chosen());
-  KeepTyping();
+  CloseWhileTheWindowIsOpen();
 }
 
 struct ClosingEvent {
@@ -118,7 +82,7 @@ TEST_F(InvoiceLifetimeTest, ClearingTheListWhileTheWindowIsOpenAttachesTheLinesT
     control->Clear();
     control->AddInvoice(Day(2026, 2, 2), "INV-2", Money("40"));
     EXPECT_FALSE(Dialog().IsShown());
-    user.Click(Dialog().Get<headless::ButtonWidget>("cmdGLAccept"));
+    ClickInWindow("cmdGLAccept");
   });
   control->ShowDistribution();
   form.Settle();
@@ -134,7 +98,7 @@ TEST_F(InvoiceLifetimeTest, ARowDeletedWhileTheWindowIsOpenTakesNoLines) {
   control->SetCurrentRow(1);
   form.ExpectDialog([&](headless::Dialog&) {
     control->DeleteByEmailFilename("a.pdf");
-    user.Click(Dialog().Get<headless::ButtonWidget>("cmdGLAccept"));
+    ClickInWindow("cmdGLAccept");
   });
   control->ShowDistribution();
   form.Settle();

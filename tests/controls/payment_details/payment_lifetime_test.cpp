@@ -4,16 +4,10 @@
 #include <memory>
 #include <string>
 
+#include "tests/controls/closable_control_screen.h"
 #include "tests/error_number.h"
-#include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/controls/payment_details/payment_details.h"
-#include "zenta/platform/headless/button_widget.h"
-#include "zenta/platform/headless/dialog.h"
-#include "zenta/platform/headless/form.h"
-#include "zenta/platform/headless/host.h"
-#include "zenta/platform/headless/surface.h"
-#include "zenta/platform/headless/user.h"
 
 namespace zenta::testing {
 namespace {
@@ -21,53 +15,18 @@ namespace {
 Currency Money(const char* text) { return Currency::FromText(text); }
 
 // A host's form whose payment control the host may close at any moment.
-struct PaymentLifetimeTest : ::testing::Test {
-  headless::Form form;
-  headless::Host host{form};
-  headless::User user{form};
-  LibraryContext context{host, [this] { return form.CreateDialog("frmDistribution"); }};
-  headless::Surface& surface = form.AddSurface("PaymentDetails1");
-  std::unique_ptr<PaymentDetails> control = std::make_unique<PaymentDetails>(surface, host, context);
-
-  void SetUp() override {
-    form.AddHostField("txtNext");
-    form.Show();
-  }
-  FrmDistribution& Window() { return context.Distribution(); }
-  headless::Dialog& Dialog() { return dynamic_cast<headless::Dialog&>(Window().Surface()); }
-  void ClickInWindow(const char* button) { user.Click(Dialog().Get<headless::ButtonWidget>(button)); }
-  // Closes the form when the named event is raised.
-  void CloseOn(const std::string& name) {
-    host.OnEvent([this, name](platform::RaisedEvent& event) {
-      if (event.name == name) control.reset();
-    });
-  }
+struct PaymentLifetimeTest : ClosableControlScreen<PaymentDetails> {
+  PaymentLifetimeTest() : ClosableControlScreen("PaymentDetails1") {}
+  void SetUp() override { ShowForm(); }
   void TypeAmount(const char* keys) {
     user.ClickCell(control->Grid(), 0, PaymentDetails::kPayAmtColumn);
     user.Type(keys);
-  }
-  void AcceptTheProposedSplit() {
-    form.ExpectDialog([this](headless::Dialog&) { ClickInWindow("cmdGLAccept"); });
-  }
-  // The payer goes on typing after the control is gone: nothing may reach it.
-  void KeepTyping() {
-    user.Type("12\t");
-    user.PressEnter();
-    user.PressTab();
   }
 };
 
 TEST_F(PaymentLifetimeTest, ClosedWhileItsWindowIsOpenTheWindowClosesAsCancelled) {
   control->SetPaymentAmount(Money("100"));
-  form.ExpectDialog([&](headless::Dialog&) {
-    user.Type("5100\t");
-    control.reset();
-    EXPECT_FALSE(Dialog().IsShown());
-  });
-  control->ShowDistribution();
-  EXPECT_EQ(control, nullptr);
-  EXPECT_FALSE(Window().Chosen());
-  KeepTyping();
+  CloseWhileTheWindowIsOpen();
 }
 
 // Every event of the control, each closing the form from its handler, on the path a payer takes.
