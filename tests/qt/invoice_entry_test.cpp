@@ -5,6 +5,7 @@
 #include <QStyle>
 #include <QLineEdit>
 #include <QSettings>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -422,6 +423,29 @@ class InvoiceEntryTest : public QObject {
     QVERIFY2(chosen_rows.contrast >= 4.5, qPrintable(chosen_rows.back.name()));
     QCOMPARE(InkIn(chosen, cell(0)).back, QColor(0, 0, 128));
     QCOMPARE(InkIn(chosen, cell(1)).back, QColor(255, 255, 200));
+  }
+
+  // Only a stored invoice has a View Dist button to press; the row for a new one shows none.
+  void theRowForANewInvoiceShowsNoButton() {
+    invoices_->AddInvoice(QDate::currentDate(), "A-1", Money("5"));
+    QCoreApplication::processEvents();
+    QTableView* grid = Grid();
+    int view = -1;
+    for (int column = 0; column < grid->model()->columnCount(); ++column) {
+      if (grid->model()->headerData(column, Qt::Horizontal).toString() == "View Dist") view = column;
+    }
+    QVERIFY(view >= 0);
+    const QImage shown = grid->viewport()->grab().toImage();
+    auto colours = [&](int row) {
+      QSet<QRgb> seen;
+      const QRect cell = grid->visualRect(grid->model()->index(row, view)).adjusted(1, 1, -2, -2);
+      for (int y = cell.top(); y <= cell.bottom(); ++y) {
+        for (int x = cell.left(); x <= cell.right(); ++x) seen.insert(shown.pixel(x, y));
+      }
+      return seen.size();
+    };
+    QVERIFY(colours(0) > 2);    // a raised button with its caption
+    QCOMPARE(colours(1), 1);    // the row's own background only
   }
 
   void theCaptionsFollowBusinessAndForeignMode() {
