@@ -3,6 +3,8 @@
 #include <map>
 #include <mutex>
 
+#include "zenta/qt/toolkit/qt_conversions.h"
+
 namespace zenta::qt {
 
 QVariantMap InvoiceRecord::toMap() const {
@@ -34,7 +36,7 @@ void InvoiceRecord::Register() {
   std::call_once(once, [] {
     InvoiceLineList::Register();
     qRegisterMetaType<InvoiceRecord>("zenta::qt::InvoiceRecord");
-    QMetaType::registerConverter<InvoiceRecord, QVariantMap>(&InvoiceRecord::toMap);
+    RegisterConverterOnce<InvoiceRecord, QVariantMap>(&InvoiceRecord::toMap);
   });
 }
 
