@@ -1,6 +1,8 @@
 // Runs the loops a Qt host runs over the invoice list at one size, for the growth gate: under
 // callgrind each loop's instruction count is dumped on its own (its name is the dump's
-// trigger), so a machine's noise cannot hide a loop that grows faster than its list.
+// trigger), so a machine's noise cannot hide a loop that grows faster than its list. The same
+// loops run on the headless toolkit too ("headless." names), so the gate can also catch the Qt
+// class drifting away from the control logic it wraps.
 #include <valgrind/callgrind.h>
 
 #include <QAbstractButton>
@@ -12,7 +14,12 @@
 #include <string>
 #include <vector>
 
+#include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/invoice_entry/invoice_entry.h"
+#include "zenta/platform/headless/dialog.h"
+#include "zenta/platform/headless/form.h"
+#include "zenta/platform/headless/host.h"
+#include "zenta/platform/headless/surface.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/toolkit/qt_dialog_surface.h"
 
@@ -32,8 +39,7 @@ void Measured(const char* name, Loop&& loop) {
 }
 
 // A list of n invoices, each split over ten accounts, loaded straight into the store.
-void Fill(zenta::qt::InvoiceEntry& widget, int n) {
-  InvoiceStore& store = widget.Control().Store();
+void Fill(InvoiceStore& store, int n) {
   for (int i = 0; i < n; ++i) {
     InvoiceStore::Row row;
     row.date = *zenta::Date::FromYmd(2026, 2, 1);
@@ -46,7 +52,6 @@ void Fill(zenta::qt::InvoiceEntry& widget, int n) {
     for (int line = 0; line < 10; ++line) lines.push_back({zenta::Variant(), "51" + std::to_string(line), Currency::FromUnits(87'000)});
     store.SetLines(store.At(index).id, std::move(lines));
   }
-  widget.Rebind();
 }
 
 void CancelDistributionWhenShown() {
@@ -62,6 +67,33 @@ void CancelDistributionWhenShown() {
 }
 
 }  // namespace
+
+// The loops below without the Qt class: the control logic on the headless toolkit.
+void HeadlessLoops(int n) {
+  const zenta::Date day = *zenta::Date::FromYmd(2026, 2, 1);
+  zenta::headless::Form form;
+  zenta::headless::Host host{form};
+  zenta::LibraryContext context{host, [&form] { return form.CreateDialog("frmDistribution"); }};
+  {
+    zenta::InvoiceEntry added{form.AddSurface("InvoiceEntry1"), host, context};
+    Measured("headless.AddInvoice", [&] {
+      for (int i = 0; i < n; ++i) added.AddInvoice(day, "INV", Currency::FromUnits(10'000 + i));
+    });
+  }
+  zenta::InvoiceEntry control{form.AddSurface("InvoiceEntry2"), host, context};
+  Fill(control.Store(), n);
+  Measured("headless.InvoiceValues", [&] {
+    for (int row = 1; row <= n; ++row) control.InvoiceValues(static_cast<std::int16_t>(row));
+  });
+  Measured("headless.SetEmailFilename", [&] {
+    for (int row = 1; row <= n; ++row) control.SetEmailFilename(static_cast<std::int16_t>(row), "mail.pdf");
+  });
+  Measured("headless.InvoiceCount", [&] {
+    int total = 0;
+    for (int row = 1; row <= n; ++row) total += control.InvoiceCount();
+    if (total != n * n) std::fprintf(stderr, "InvoiceCount read %d\n", total);
+  });
+}
 
 int main(int argc, char** argv) {
   if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
@@ -84,7 +116,8 @@ int main(int argc, char** argv) {
   }
   zenta::qt::InvoiceEntry widget;
   widget.show();
-  Fill(widget, n);
+  Fill(widget.Control().Store(), n);
+  widget.Rebind();
   QApplication::processEvents();
   Measured("InvoiceValues", [&] {
     for (int row = 1; row <= n; ++row) widget.InvoiceValues(static_cast<short>(row));
@@ -104,5 +137,6 @@ int main(int argc, char** argv) {
       widget.AddInvoice(day, QStringLiteral("SHOWN"), Currency::FromUnits(10'000), QVariant(), true);
     }
   });
+  HeadlessLoops(n);
   return 0;
 }

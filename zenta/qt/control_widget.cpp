@@ -71,9 +71,11 @@ void ControlWidget::DetachControl() { control_.reset(); }
 void ControlWidget::Attach(std::unique_ptr<ControlBinding> binding) {
   control_ = std::move(binding);
   const QMetaObject* meta = metaObject();
+  properties_.resize(static_cast<std::size_t>(meta->propertyCount()));
   for (int i = ControlWidget::staticMetaObject.propertyOffset(); i < meta->propertyCount(); ++i) {
     const QMetaProperty property = meta->property(i);
     if (!property.hasNotifySignal()) continue;
+    properties_[static_cast<std::size_t>(i)] = property;
     notifying_properties_.emplace(property.name(), i);
     signal_properties_[property.notifySignalIndex()].push_back(i);
   }
@@ -93,7 +95,7 @@ void ControlWidget::TakeBaseline() {
   std::fill(is_pending_.begin(), is_pending_.end(), false);
   notifying_ = true;
   for (const auto& [name, index] : notifying_properties_) {
-    last_values_[static_cast<std::size_t>(index)] = metaObject()->property(index).read(this);
+    last_values_[static_cast<std::size_t>(index)] = properties_[static_cast<std::size_t>(index)].read(this);
   }
   notifying_ = false;
 }
@@ -160,11 +162,13 @@ void ControlWidget::NotifyChanges() const noexcept {
     const QMetaObject* meta = metaObject();
     // A slot may change more values while this runs; those are appended and handled here too.
     for (std::size_t k = 0; k < pending_.size(); ++k) {
-      const int signal = meta->property(pending_[k]).notifySignalIndex();
+      // Read already with another property its signal stands for (and not announced since).
+      if (!is_pending_[static_cast<std::size_t>(pending_[k])]) continue;
+      const int signal = properties_[static_cast<std::size_t>(pending_[k])].notifySignalIndex();
       bool changed = false;
       for (int index : signal_properties_.at(signal)) {
         is_pending_[static_cast<std::size_t>(index)] = false;
-        QVariant value = meta->property(index).read(this);
+        QVariant value = properties_[static_cast<std::size_t>(index)].read(this);
         QVariant& last = last_values_[static_cast<std::size_t>(index)];
         if (last == value) continue;
         last = std::move(value);

@@ -4,6 +4,7 @@
 /// ControlWidget, the base every Qt control class shares.
 
 #include <QColor>
+#include <QMetaProperty>
 #include <QPointer>
 #include <QSettings>
 #include <QVariantList>
@@ -199,6 +200,8 @@ class ControlWidget : public QWidget {
   // The properties each NOTIFY signal stands for, by signal index: read together, so that a
   // signal shared by several readings of one value goes out once per change.
   std::unordered_map<int, std::vector<int>> signal_properties_;
+  // The notifying properties by index, looked up once: making a QMetaProperty is not cheap.
+  std::vector<QMetaProperty> properties_;
   mutable std::vector<QVariant> last_values_;  // by property index
   mutable std::vector<int> pending_;
   mutable std::vector<bool> is_pending_;
