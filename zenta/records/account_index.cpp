@@ -59,13 +59,13 @@ int AccountIndex::FindNumber(std::string_view number) const {
   return it != numbers_.end() && it->first == key ? it->second : -1;
 }
 
-std::vector<int> AccountIndex::Complete(std::string_view typed, std::size_t limit) const {
+std::vector<int> AccountIndex::Complete(std::string_view typed, std::size_t limit, Include include) const {
   std::vector<int> found;
   const std::string key = Key(typed);
   if (key.empty() || limit == 0) return found;
   std::vector<bool> taken;
   auto take = [&](int account) {
-    if (!active_[static_cast<std::size_t>(account)]) return;
+    if (include == Include::kActive && !active_[static_cast<std::size_t>(account)]) return;
     if (taken.empty()) taken.assign(active_.size(), false);
     if (taken[static_cast<std::size_t>(account)]) return;
     taken[static_cast<std::size_t>(account)] = true;
