@@ -65,6 +65,8 @@ DefaultAccountDialog::DefaultAccountDialog(const QString& current_account, QWidg
   layout->addWidget(list_, 1);
   layout->addWidget(status_);
   layout->addWidget(buttons_);
+  // Room for a path and a long account name without the designer resizing first.
+  resize(520, 420);
 
   path_->installEventFilter(this);
   filter_->installEventFilter(this);
