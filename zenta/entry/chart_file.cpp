@@ -76,7 +76,9 @@ ChartFile ParseChartFile(std::string_view text) {
   const TableRows rows = ParseClipboardTable(text, &lines);
   ChartFile file;
   std::vector<GLAccount> accounts;
+  accounts.reserve(rows.size());
   std::unordered_set<std::string> numbers;
+  numbers.reserve(rows.size());
   bool first = true;
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const std::vector<std::string>& row = rows[i];

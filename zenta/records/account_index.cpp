@@ -35,11 +35,17 @@ AccountIndex::AccountIndex(const std::vector<GLAccount>& accounts) {
   numbers_.reserve(accounts.size());
   name_words_.reserve(accounts.size());
   active_.reserve(accounts.size());
+  std::size_t word_count = 0;
   for (int i = 0; i < static_cast<int>(accounts.size()); ++i) {
     numbers_.emplace_back(Key(accounts[i].number), i);
     name_words_.push_back(Words(accounts[i].name));
-    for (const std::string& word : name_words_.back()) words_.emplace_back(word, i);
+    word_count += name_words_.back().size();
     active_.push_back(accounts[i].active);
+  }
+  // Sized once: growing it word by word moved every word already in it, again and again.
+  words_.reserve(word_count);
+  for (int i = 0; i < static_cast<int>(accounts.size()); ++i) {
+    for (const std::string& word : name_words_[static_cast<std::size_t>(i)]) words_.emplace_back(word, i);
   }
   std::sort(numbers_.begin(), numbers_.end());
   std::sort(words_.begin(), words_.end());
