@@ -106,10 +106,5 @@ TEST(ChartFileTest, ReadsAFileAndReportsOneItCannotRead) {
   EXPECT_FALSE(ReadChartFile(path));
 }
 
-TEST(ChartFileTest, InactiveWords) {
-  for (const char* word : {"0", "false", "NO", " inactive "}) EXPECT_TRUE(MarksInactive(word)) << word;
-  for (const char* word : {"", "1", "yes", "n"}) EXPECT_FALSE(MarksInactive(word)) << word;
-}
-
 }  // namespace
 }  // namespace zenta::entry
