@@ -7,6 +7,7 @@ set(ZENTA_PUBLIC_HEADERS
   zenta/qt/application_context.h zenta/qt/control_widget.h zenta/qt/govt_details.h
   zenta/qt/invoice_entry.h zenta/qt/metatypes.h zenta/qt/payment_details.h zenta/qt/pmt_details.h
   zenta/qt/std_payment.h zenta/qt/translator.h zenta/qt/chart_of_accounts.h
+  zenta/qt/invoice_record.h zenta/qt/invoice_line_list.h
   zenta/qt/testing/modal_scripts.h
   zenta/qt/toolkit/qt_dialog_surface.h zenta/qt/toolkit/twips_layout.h
   zenta/core/currency.h zenta/core/date.h zenta/core/date_format.h zenta/core/date_mask.h
@@ -55,5 +56,6 @@ set(ZENTA_REFERENCE_HEADERS
   zenta/qt/application_context.h zenta/qt/control_widget.h zenta/qt/govt_details.h
   zenta/qt/invoice_entry.h zenta/qt/metatypes.h zenta/qt/payment_details.h zenta/qt/pmt_details.h
   zenta/qt/std_payment.h zenta/qt/translator.h zenta/qt/chart_of_accounts.h
+  zenta/qt/invoice_record.h zenta/qt/invoice_line_list.h
   zenta/core/currency.h zenta/core/host_error.h zenta/core/number_format.h
   zenta/records/cls_distribution.h zenta/records/cls_distributions.h zenta/records/cls_invoice.h)

@@ -192,7 +192,7 @@ void DemoSession::PlayInvoiceList() {
                 .arg(invoices.InvoiceCount())
                 .arg(MoneyText(invoices.TotalAmount()), MoneyText(invoices.TotalGST()),
                      MoneyText(invoices.TotalExpense()));
-  for (const QVariant& line : invoices.InvoiceValues(1).value("Distributions").toList()) {
+  for (const QVariant& line : invoices.InvoiceValues(1).Distributions.ToList()) {
     const QVariantMap map = line.toMap();
     notes_ << QString("InvoiceEntry1.InvoiceValues(1) line: %1 %2")
                   .arg(map.value("GLAccount").toString(), MoneyText(map.value("Amount").value<Currency>()));
@@ -232,7 +232,7 @@ void DemoSession::PlayInvoicePaste() {
                 .arg(deleted)
                 .arg(invoices.RowCount())
                 .arg(before + 2)
-                .arg(invoices.InvoiceValues(static_cast<short>(before + 2)).value("InvoiceNo").toString());
+                .arg(invoices.InvoiceValues(static_cast<short>(before + 2)).InvoiceNo);
   if (invoices.RowCount() != before + 3) complete_ = false;
 }
 
@@ -270,11 +270,10 @@ void DemoSession::PlayChartAndTax() {
   ClickCell(grid, invoices.RowCount() - 1, 6);  // View Dist
   Settle();
   CheckOpened(split, "The invoice split from the chart");
-  const QVariantMap invoice = invoices.InvoiceValues(invoices.RowCount());
+  const qt::InvoiceRecord invoice = invoices.InvoiceValues(invoices.RowCount());
   notes_ << QString("GST/HST filled with F8 at 13 %: %1 of %2")
-                .arg(MoneyText(invoice.value("GSTAmount").value<Currency>()),
-                     MoneyText(invoice.value("InvoiceAmount").value<Currency>()));
-  for (const QVariant& line : invoice.value("Distributions").toList()) {
+                .arg(MoneyText(invoice.GSTAmount), MoneyText(invoice.InvoiceAmount));
+  for (const QVariant& line : invoice.Distributions.ToList()) {
     const QVariantMap map = line.toMap();
     notes_ << QString("Line taken from the chart: %1 %2")
                   .arg(map.value("GLAccount").toString(), MoneyText(map.value("Amount").value<Currency>()));

@@ -32,7 +32,7 @@ InvoiceWindow::InvoiceWindow(QWidget* parent)
   connect(invoices_, &zenta::qt::InvoiceEntry::CheckDuplicateInvoices, this,
           [this](QString& number, bool& cancel) {
             for (short row = 1; row <= invoices_->RowCount(); ++row) {
-              if (invoices_->CurrentRow() != row && invoices_->InvoiceValues(row).value("InvoiceNo") == number) cancel = true;
+              if (invoices_->CurrentRow() != row && invoices_->InvoiceValues(row).InvoiceNo == number) cancel = true;
             }
           });
   ShowTotals();
@@ -56,12 +56,12 @@ bool InvoiceWindow::Check() {
 QStringList InvoiceWindow::Report() const {
   QStringList lines;
   for (short row = 1; row <= invoices_->RowCount(); ++row) {
-    const QVariantMap invoice = invoices_->InvoiceValues(row);
-    if (invoice.value("InvoiceNo").toString().trimmed().isEmpty()) continue;
+    const zenta::qt::InvoiceRecord invoice = invoices_->InvoiceValues(row);
+    if (invoice.InvoiceNo.trimmed().isEmpty()) continue;
     lines << QString("%1 %2 %3 GST/HST %4")
-                 .arg(invoice.value("InvoiceDate").toDate().toString("yyyy/MM/dd"), invoice.value("InvoiceNo").toString(),
-                      Amount(invoice.value("InvoiceAmount")), Amount(invoice.value("GSTAmount")));
-    for (const QVariant& line : invoice.value("Distributions").toList()) {
+                 .arg(invoice.InvoiceDate.toString("yyyy/MM/dd"), invoice.InvoiceNo,
+                      Amount(invoice.InvoiceAmount), Amount(invoice.GSTAmount));
+    for (const QVariant& line : invoice.Distributions.ToList()) {
       const QVariantMap map = line.toMap();
       lines << QString("    %1 %2").arg(map.value("GLAccount").toString(), Amount(map.value("Amount")));
     }

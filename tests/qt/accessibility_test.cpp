@@ -328,11 +328,11 @@ class AccessibilityTest : public QObject {
     QTRY_VERIFY(!ShownDialog());
     QCOMPARE(to_distribute, QString("12.50"));
 
-    const QVariantMap invoice = invoices->InvoiceValues(1);
-    QCOMPARE(invoice.value("InvoiceNo").toString(), QString("INV-7"));
-    QCOMPARE(invoice.value("InvoiceAmount").value<Currency>(), Currency::FromText("12.50"));
+    const InvoiceRecord invoice = invoices->InvoiceValues(1);
+    QCOMPARE(invoice.InvoiceNo, QString("INV-7"));
+    QCOMPARE(invoice.InvoiceAmount, Currency::FromText("12.50"));
     QStringList split;
-    for (const QVariant& line : invoice.value("Distributions").toList()) {
+    for (const QVariant& line : invoice.Distributions.ToList()) {
       const QVariantMap map = line.toMap();
       split << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
     }

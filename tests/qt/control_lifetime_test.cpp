@@ -161,7 +161,7 @@ class ControlLifetimeTest : public QObject {
     QVERIFY(second.Ran());
     QCOMPARE(refused, 0x80040016u);
     QCOMPARE(payment->Distributions().size(), 1);
-    QCOMPARE(invoices->InvoiceValues(1).value("Distributions").toList().size(), 0);
+    QCOMPARE(invoices->InvoiceValues(1).Distributions.size(), 0);
   }
 };
 

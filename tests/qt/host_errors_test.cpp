@@ -56,9 +56,9 @@ class HostErrorsTest : public QObject {
     TypeKeys("-10000");
     PressKey(Qt::Key_Tab);
     QCOMPARE(Numbers(errors), QList<quint32>{kOverflow});
-    const QVariantMap invoice = invoices_->InvoiceValues(1);
-    QCOMPARE(invoice.value("GSTAmount").value<Currency>(), Currency());
-    QCOMPARE(invoice.value("CompanyExpense").value<Currency>(), NearTheMaximum());
+    const InvoiceRecord invoice = invoices_->InvoiceValues(1);
+    QCOMPARE(invoice.GSTAmount, Currency());
+    QCOMPARE(invoice.CompanyExpense, NearTheMaximum());
   }
 
   void aRateNoAmountConvertsAtIsRefusedAndTheLastOneKept_data() {

@@ -53,9 +53,9 @@ class InvoiceBulkTest : public QObject {
     PressKey(Qt::Key_V, Qt::ControlModifier);
     testing::Settle();
     QCOMPARE(invoices_->RowCount(), short{3});
-    QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceAmount").value<Currency>(), Money("1250"));
+    QCOMPARE(invoices_->InvoiceValues(1).InvoiceAmount, Money("1250"));
     // The tab inside the quoted cell is a character typing would refuse.
-    QCOMPARE(invoices_->InvoiceValues(2).value("InvoiceNo").toString(), QString("HydroMarch"));
+    QCOMPARE(invoices_->InvoiceValues(2).InvoiceNo, QString("HydroMarch"));
     QCOMPARE(invoices_->TotalAmount(), Money("2472.06"));
     QCOMPARE(recalculate.count(), 1);
     QVERIFY(rows.count() >= 1);
@@ -104,7 +104,7 @@ class InvoiceBulkTest : public QObject {
     QVERIFY(paste.Ran());
     QVERIFY(undone);
     QStringList lines;
-    for (const QVariant& line : invoices_->InvoiceValues(1).value("Distributions").toList()) {
+    for (const QVariant& line : invoices_->InvoiceValues(1).Distributions.ToList()) {
       const QVariantMap map = line.toMap();
       lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
     }

@@ -5,6 +5,7 @@
 #include <QStyle>
 #include <QLineEdit>
 #include <QSettings>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -126,7 +127,7 @@ class InvoiceEntryTest : public QObject {
 
   QStringList LinesOf(short row) const {
     QStringList lines;
-    for (const QVariant& line : invoices_->InvoiceValues(row).value("Distributions").toList()) {
+    for (const QVariant& line : invoices_->InvoiceValues(row).Distributions.ToList()) {
       const QVariantMap map = line.toMap();
       lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
     }
@@ -153,10 +154,10 @@ class InvoiceEntryTest : public QObject {
     next_field_->setFocus(Qt::TabFocusReason);
     testing::Settle();
     QCOMPARE(invoices_->RowCount(), short{1});
-    const QVariantMap invoice = invoices_->InvoiceValues(1);
-    QCOMPARE(invoice.value("InvoiceDate").toDate(), QDate::currentDate());
-    QCOMPARE(invoice.value("InvoiceNo").toString(), QString("INV-1"));
-    QCOMPARE(invoice.value("InvoiceAmount").value<Currency>(), Money("12.50"));
+    const InvoiceRecord invoice = invoices_->InvoiceValues(1);
+    QCOMPARE(invoice.InvoiceDate, QDate::currentDate());
+    QCOMPARE(invoice.InvoiceNo, QString("INV-1"));
+    QCOMPARE(invoice.InvoiceAmount, Money("12.50"));
     QCOMPARE(invoices_->TotalAmount(), Money("12.50"));
     QVERIFY(recalculate.count() >= 1);
     QVERIFY(totals.count() >= 1);
@@ -185,8 +186,8 @@ class InvoiceEntryTest : public QObject {
     QVERIFY(SignalsMatchChanges(invoices_, "clear", [&] { invoices_->Clear(); }));
   }
 
-  // The map a host reads: its keys and value types, lines included, and texts that are not
-  // ASCII both ways.
+  // The record a host reads, through its fields, its gadget properties (late-bound hosts) and
+  // as a map: the same values, lines included, and texts that are not ASCII both ways.
   void invoiceValuesKeepTheirShapeAndTexts() {
     invoices_->SetBusinessMode(true);
     invoices_->AddInvoice(QDate(2026, 2, 1), "INV-ü", Money("10"), QVariant::fromValue(Money("1.30")));
@@ -195,34 +196,46 @@ class InvoiceEntryTest : public QObject {
     store.SetLines(store.At(0).id, {{Variant(), "5100", Money("5")}, {Variant(7), "5200-é", Money("3.70")}});
     invoices_->SetEmailFilename(1, QString::fromUtf8("reçu.pdf"));
 
-    const QVariantMap invoice = invoices_->InvoiceValues(1);
-    QCOMPARE(invoice.keys(), QStringList({"CompanyExpense", "Distributions", "EmailFilename", "GSTAmount", "InvoiceAmount",
-                                          "InvoiceDate", "InvoiceNo", "PaymentFor"}));
-    QCOMPARE(invoice.value("InvoiceDate").metaType(), QMetaType::fromType<QDate>());
-    QCOMPARE(invoice.value("InvoiceNo").toString(), QString::fromUtf8("INV-ü"));
-    QCOMPARE(invoice.value("GSTAmount").value<Currency>(), Money("1.30"));
-    QCOMPARE(invoice.value("CompanyExpense").value<Currency>(), Money("8.70"));
-    QCOMPARE(invoice.value("EmailFilename").toString(), QString::fromUtf8("reçu.pdf"));
-    QCOMPARE(invoice.value("PaymentFor").metaType(), QMetaType::fromType<QString>());
-    QVERIFY(invoice.value("Distributions").canConvert<QVariantList>());
-    const QVariantList lines = invoice.value("Distributions").toList();
-    QCOMPARE(lines.size(), 2);
-    QCOMPARE(invoice.value("Distributions").value<QVariantList>(), lines);
-    QCOMPARE(invoices_->InvoiceValues(1), invoice);
-    QCOMPARE(lines[1].toMap().keys(), QStringList({"Amount", "GLAccount"}));
+    const InvoiceRecord invoice = invoices_->InvoiceValues(1);
+    QVERIFY(!invoice.isNull());
+    QCOMPARE(invoice.InvoiceNo, QString::fromUtf8("INV-ü"));
+    QCOMPARE(invoice.GSTAmount, Money("1.30"));
+    QCOMPARE(invoice.CompanyExpense, Money("8.70"));
+    QCOMPARE(invoice.EmailFilename, QString::fromUtf8("reçu.pdf"));
+    QCOMPARE(invoice.Distributions.size(), 2);
     QCOMPARE(LinesOf(1), QStringList({"5100 5", QString::fromUtf8("5200-é 3.7")}));
+    QCOMPARE(invoices_->InvoiceValues(1), invoice);
 
-    // A map the host changes is its own.
-    QVariantMap changed = invoice;
-    changed["InvoiceNo"] = "other";
-    QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString::fromUtf8("INV-ü"));
+    // Late-bound: the gadget's properties, and a returned QVariant read as a map.
+    const QMetaObject& meta = InvoiceRecord::staticMetaObject;
+    const auto read = [&](const char* name) { return meta.property(meta.indexOfProperty(name)).readOnGadget(&invoice); };
+    QCOMPARE(read("InvoiceAmount").toString(), QString("10.00"));
+    QCOMPARE(read("Distributions").toList().size(), 2);
+    InvoiceRecord invoked;
+    QVERIFY(QMetaObject::invokeMethod(invoices_, "InvoiceValues", Qt::DirectConnection,
+                                      Q_RETURN_ARG(zenta::qt::InvoiceRecord, invoked), Q_ARG(short, 1)));
+    QCOMPARE(invoked, invoice);
+    const QVariantMap map = QVariant::fromValue(invoice).toMap();
+    QCOMPARE(map, invoice.toMap());
+    QCOMPARE(map.keys(), QStringList({"CompanyExpense", "Distributions", "EmailFilename", "GSTAmount", "InvoiceAmount",
+                                      "InvoiceDate", "InvoiceNo", "PaymentFor"}));
+    QCOMPARE(map.value("InvoiceDate").metaType(), QMetaType::fromType<QDate>());
+    QCOMPARE(map.value("PaymentFor").metaType(), QMetaType::fromType<QString>());
+    QCOMPARE(map.value("Distributions").value<QVariantList>(), invoice.DistributionList());
+    QCOMPARE(invoice.DistributionList()[1].toMap().keys(), QStringList({"Amount", "GLAccount"}));
+
+    // A record the host changes is its own.
+    InvoiceRecord changed = invoice;
+    changed.InvoiceNo = "other";
+    QCOMPARE(invoices_->InvoiceValues(1).InvoiceNo, QString::fromUtf8("INV-ü"));
 
     QSignalSpy errors(invoices_, &InvoiceEntry::HostErrorRaised);
     invoices_->SetEmailFilename(2, "lost.pdf");
     QCOMPARE(errors.count(), 1);
     QCOMPARE(errors[0][1].toString(), QString("InvoiceValues"));
     QCOMPARE(errors[0][2].toString(), QString("The row 2 does not exist"));
-    QCOMPARE(invoices_->InvoiceValues(1).value("EmailFilename").toString(), QString::fromUtf8("reçu.pdf"));
+    QCOMPARE(invoices_->InvoiceValues(1).EmailFilename, QString::fromUtf8("reçu.pdf"));
+    QVERIFY(InvoiceRecord().toMap().isEmpty());
   }
 
   void typedRowsAndMovesSignalOnce() {
@@ -301,13 +314,13 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(invoices_->TotalAmount(), Money("5"));
     // A missing row reaches the host as an error, not an exception.
     QSignalSpy errors(invoices_, &ControlWidget::HostErrorRaised);
-    QVERIFY(invoices_->InvoiceValues(2).isEmpty());
+    QVERIFY(invoices_->InvoiceValues(2).isNull());
     QCOMPARE(errors.count(), 1);
     QCOMPARE(errors.front().at(0).value<quint32>(), 0x800403E8u);
     QCOMPARE(errors.front().at(2).toString(), QString("The row 2 does not exist"));
     invoices_->SetInvoiceValues(1, QString("not an invoice"));
     QCOMPARE(errors.count(), 2);
-    QCOMPARE(invoices_->InvoiceValues(1).value("InvoiceNo").toString(), QString("A-1"));
+    QCOMPARE(invoices_->InvoiceValues(1).InvoiceNo, QString("A-1"));
   }
 
   void aNewInvoiceOnAFullListTellsThePayerAndCurrentRowNeverWraps() {
@@ -410,6 +423,29 @@ class InvoiceEntryTest : public QObject {
     QVERIFY2(chosen_rows.contrast >= 4.5, qPrintable(chosen_rows.back.name()));
     QCOMPARE(InkIn(chosen, cell(0)).back, QColor(0, 0, 128));
     QCOMPARE(InkIn(chosen, cell(1)).back, QColor(255, 255, 200));
+  }
+
+  // Only a stored invoice has a View Dist button to press; the row for a new one shows none.
+  void theRowForANewInvoiceShowsNoButton() {
+    invoices_->AddInvoice(QDate::currentDate(), "A-1", Money("5"));
+    QCoreApplication::processEvents();
+    QTableView* grid = Grid();
+    int view = -1;
+    for (int column = 0; column < grid->model()->columnCount(); ++column) {
+      if (grid->model()->headerData(column, Qt::Horizontal).toString() == "View Dist") view = column;
+    }
+    QVERIFY(view >= 0);
+    const QImage shown = grid->viewport()->grab().toImage();
+    auto colours = [&](int row) {
+      QSet<QRgb> seen;
+      const QRect cell = grid->visualRect(grid->model()->index(row, view)).adjusted(1, 1, -2, -2);
+      for (int y = cell.top(); y <= cell.bottom(); ++y) {
+        for (int x = cell.left(); x <= cell.right(); ++x) seen.insert(shown.pixel(x, y));
+      }
+      return seen.size();
+    };
+    QVERIFY(colours(0) > 2);    // a raised button with its caption
+    QCOMPARE(colours(1), 1);    // the row's own background only
   }
 
   void theCaptionsFollowBusinessAndForeignMode() {

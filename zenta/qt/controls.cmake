@@ -6,6 +6,7 @@ add_library(zenta_qt STATIC
   govt_details.cpp
   invoice_entry.cpp
   invoice_line_list.cpp
+  invoice_record.cpp
   payment_details.cpp
   pmt_details.cpp
   translator.cpp

@@ -30,26 +30,12 @@ constexpr int kGridGap = 60;
 // Room for a grid's frame and vertical scroll bar beside its columns.
 constexpr int kGridChrome = 420;
 
-// A map filled in key order: each entry goes in at the end after one key comparison, its value
-// moved rather than copied. A key out of order still lands in its place, only slower.
-class SortedMapBuilder {
- public:
-  SortedMapBuilder& Add(const QString& key, QVariant value) {
-    entries_.emplace_hint(entries_.end(), key, std::move(value));
-    return *this;
-  }
-  QVariantMap Take() { return QVariantMap(std::move(entries_)); }
-
- private:
-  std::map<QString, QVariant> entries_;
-};
-
 }  // namespace
 
 InvoiceEntry::InvoiceEntry(QWidget* parent)
     : ControlWidget(parent),
       control_(std::make_unique<zenta::InvoiceEntry>(Surface(), Host(), ApplicationContext())) {
-  InvoiceLineList::Register();
+  InvoiceRecord::Register();
   Attach(std::make_unique<BindingTo<zenta::InvoiceEntry>>(*control_));
   Surface().OnResize([this] { FitGrid(); });
   // Columns shown, hidden or re-captioned (by the mode, SetupIPGrid or loaded properties) are
@@ -192,23 +178,22 @@ QString InvoiceEntry::InvalidReason() {
 
 bool InvoiceEntry::DataEntryComplete() const { return control_->DataEntryComplete(); }
 
-QVariantMap InvoiceEntry::InvoiceValues(short TheRow) const {
-  QVariantMap map;
+InvoiceRecord InvoiceEntry::InvoiceValues(short TheRow) const {
+  InvoiceRecord record;
   Guard([&] {
     const std::shared_ptr<clsInvoice> invoice = control_->InvoiceValues(TheRow);
-    // The lines stay the store's block until the host reads them (toList()).
-    map = SortedMapBuilder()
-              .Add(QStringLiteral("CompanyExpense"), QVariant::fromValue(invoice->CompanyExpense))
-              .Add(QStringLiteral("Distributions"), QVariant::fromValue(InvoiceLineList(control_->Store().LineBlock(invoice->ID))))
-              .Add(QStringLiteral("EmailFilename"), ToQString(invoice->EmailFilename))
-              .Add(QStringLiteral("GSTAmount"), QVariant::fromValue(invoice->GSTAmount))
-              .Add(QStringLiteral("InvoiceAmount"), QVariant::fromValue(invoice->InvoiceAmount))
-              .Add(QStringLiteral("InvoiceDate"), ToQDate(invoice->InvoiceDate))
-              .Add(QStringLiteral("InvoiceNo"), ToQString(invoice->InvoiceNo))
-              .Add(QStringLiteral("PaymentFor"), ToQString(invoice->PaymentFor))
-              .Take();
+    record = InvoiceRecord(InvoiceRecord::Filled{});
+    record.InvoiceDate = ToQDate(invoice->InvoiceDate);
+    record.InvoiceNo = ToQString(invoice->InvoiceNo);
+    record.InvoiceAmount = invoice->InvoiceAmount;
+    record.GSTAmount = invoice->GSTAmount;
+    record.CompanyExpense = invoice->CompanyExpense;
+    record.PaymentFor = ToQString(invoice->PaymentFor);
+    record.EmailFilename = ToQString(invoice->EmailFilename);
+    // The lines stay the store's block until the host reads them.
+    record.Distributions = InvoiceLineList(control_->Store().LineBlock(invoice->ID));
   });
-  return map;
+  return record;
 }
 
 void InvoiceEntry::SetInvoiceValues(short TheRow, const QVariant& value) {

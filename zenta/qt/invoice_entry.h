@@ -11,6 +11,7 @@
 
 #include "zenta/core/currency.h"
 #include "zenta/qt/control_widget.h"
+#include "zenta/qt/invoice_record.h"
 #include "zenta/qt/metatypes.h"
 
 /// @cond internal
@@ -83,13 +84,11 @@ class InvoiceEntry : public ControlWidget {
   Q_INVOKABLE QString InvalidReason();
   /// Whether no row is being typed or left changed.
   Q_INVOKABLE bool DataEntryComplete() const;
-  /// Row `TheRow` (from 1) as a QVariantMap with the invoice record's field names:
-  /// "InvoiceDate" (QDate), "InvoiceNo", "InvoiceAmount", "GSTAmount", "CompanyExpense"
-  /// (zenta::Currency in dollars), "PaymentFor", "EmailFilename" and "Distributions": the
-  /// lines, read with toList() or value<QVariantList>() as "GLAccount", "Amount" maps in line
-  /// order (they are made when first read, so a loop that skips them does not pay for them).
-  /// A row that does not exist raises 0x800403E8 and returns an empty map.
-  Q_INVOKABLE QVariantMap InvoiceValues(short TheRow) const;
+  /// Row `TheRow` (from 1) as an InvoiceRecord: its date, number, amounts, "payment for"
+  /// text, e-mail file name and lines (made into maps only when read, so a loop that skips
+  /// them does not pay for them). toMap() gives it as a QVariantMap keyed by the same names.
+  /// A row that does not exist raises 0x800403E8 and returns a null record.
+  Q_INVOKABLE zenta::qt::InvoiceRecord InvoiceValues(short TheRow) const;
   /// Takes a zenta::ObjectRef to a zenta::clsInvoice and discards it: the list cannot be
   /// changed this way. Anything else raises Type mismatch (13).
   Q_INVOKABLE void SetInvoiceValues(short TheRow, const QVariant& value);

@@ -40,7 +40,7 @@ void InvoiceLineList::Register() {
   static std::once_flag once;
   std::call_once(once, [] {
     qRegisterMetaType<InvoiceLineList>("zenta::qt::InvoiceLineList");
-    QMetaType::registerConverter<InvoiceLineList, QVariantList>(&InvoiceLineList::ToList);
+    RegisterConverterOnce<InvoiceLineList, QVariantList>(&InvoiceLineList::ToList);
   });
 }
 

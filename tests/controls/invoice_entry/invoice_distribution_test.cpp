@@ -184,6 +184,17 @@ TEST_F(InvoiceDistributionTest, CancellingChangesNothingAndDeletingTheRowDropsIt
   EXPECT_EQ(control.RowCount(), 1);
   EXPECT_EQ(control.Store().LineCount(), 0u);
   EXPECT_EQ(control.InvoiceValues(1)->InvoiceNo, "B");
+
+  // A row emptied after its split, then filled by AddInvoice: the old lines go with it.
+  InvoiceStore& store = control.Store();
+  store.EnsureId(0);
+  store.SetLines(store.At(0).id, {{Variant(), "5100", Money("10")}});
+  store.WriteRow(0, {{1, Variant()}, {2, Variant(std::string())}, {3, Variant()}});
+  control.AddInvoice(Day(2026, 2, 2), "C", Money("7"));
+  EXPECT_EQ(control.RowCount(), 1);
+  EXPECT_EQ(control.InvoiceValues(1)->InvoiceNo, "C");
+  EXPECT_EQ(control.InvoiceValues(1)->Distributions->Count(), 0);
+  EXPECT_EQ(store.LineCount(), 0u);
 }
 
 }  // namespace

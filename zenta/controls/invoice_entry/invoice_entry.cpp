@@ -865,7 +865,9 @@ bool InvoiceEntry::AddInvoice(Date InvoiceDate, const std::string& InvoiceNo, Cu
   }
   const bool show = !bShowDistribution.IsEmpty() && bShowDistribution.ToBool();
   const int index = store_.TargetRowForAdd("AddInvoice");
-  // A blank row being filled keeps what the host attached to it.
+  // A blank row being filled keeps what the host attached to it, but starts without a split:
+  // lines left from what it held before are dropped with their identifier, not orphaned.
+  store_.ReleaseId(index);
   row.payment_for = store_.At(index).payment_for;
   row.email = store_.At(index).email;
   store_.Put(index, std::move(row));

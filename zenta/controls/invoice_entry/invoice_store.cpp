@@ -72,6 +72,12 @@ void InvoiceStore::Forget(const Row& row) {
   if (live_ids_.erase(row.id) != 0) free_ids_.push_back(row.id);
 }
 
+void InvoiceStore::ReleaseId(int row) {
+  Row& target = rows_[static_cast<std::size_t>(row)];
+  Forget(target);
+  target.id = 0;
+}
+
 void InvoiceStore::Remove(int row) {
   const auto at = rows_.begin() + row;
   Tally(*at, -1);

@@ -79,6 +79,8 @@ class InvoiceStore : public platform::GridSource {
   // The same lines as a shared block (null without lines), for a record that outlives a change.
   std::shared_ptr<const InvoiceLineBlock> LineBlock(std::int16_t id) const;
   void SetLines(std::int16_t id, std::vector<InvoiceLine> lines);
+  // Gives back the row's identifier and drops its lines: the row has no split any more.
+  void ReleaseId(int row);
   // The sum of the lines' amounts (0 without lines), exact.
   Currency LinesTotal(std::int16_t id) const;
   std::size_t LineCount() const { return line_count_; }

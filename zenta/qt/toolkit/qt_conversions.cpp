@@ -188,10 +188,11 @@ void RegisterMetaTypes() {
     qRegisterMetaType<Currency>("zenta::Currency");
     qRegisterMetaType<ObjectRef>("zenta::ObjectRef");
     // What a host prints: "113.00", never "113"; decimals past the cent are kept, not rounded.
-    QMetaType::registerConverter<Currency, QString>(
+    RegisterConverterOnce<Currency, QString>(
         [](const Currency& c) { return QString::fromStdString(FormatNumber(c, "0.00##")); });
-    QMetaType::registerConverter<Currency, double>([](const Currency& c) { return c.ToDouble(); });
+    RegisterConverterOnce<Currency, double>([](const Currency& c) { return c.ToDouble(); });
     // Malformed or out-of-range text fails the conversion, so setProperty refuses it.
+    if (QMetaType::hasRegisteredConverterFunction<QString, Currency>()) return;
     QMetaType::registerConverterFunction(
         [](const void* from, void* to) {
           const std::optional<Currency> value = CurrencyFromQString(*static_cast<const QString*>(from));

@@ -18,6 +18,13 @@
 
 namespace zenta::qt {
 
+// Registers a conversion unless one is there already: a Designer plugin and the program that
+// loads it may each carry a copy of the library, and Qt warns about a second registration.
+template <typename From, typename To, typename Convert>
+void RegisterConverterOnce(Convert convert) {
+  if (!QMetaType::hasRegisteredConverterFunction<From, To>()) QMetaType::registerConverter<From, To>(convert);
+}
+
 // How the library's values cross into Qt, in one place:
 // - Text is UTF-8 on our side and QString on Qt's; malformed UTF-8 becomes U+FFFD.
 // - Currency stays exact: as text it is the invariant "12.5" form, and in a QVariant it travels

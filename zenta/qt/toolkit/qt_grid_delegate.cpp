@@ -25,7 +25,13 @@ void GridCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   const int column = index.column();
   if (column < 0 || column >= engine_.ColumnCount()) return;
   if (engine_.Column(column).kind == platform::ColumnKind::Button) {
-    PaintButton(painter, option, index);
+    // The row for a new invoice has no caption there: a blank button would invite a click
+    // that does nothing.
+    if (index.data(Qt::DisplayRole).toString().isEmpty()) {
+      QStyledItemDelegate::paint(painter, option, index);
+    } else {
+      PaintButton(painter, option, index);
+    }
     return;
   }
   const std::optional<int> current = engine_.CurrentRow();
