@@ -34,7 +34,7 @@ set(ZENTA_PUBLIC_HEADERS
   zenta/platform/message_box.h zenta/platform/number_edit.h zenta/platform/property_bag.h
   zenta/platform/raised_event.h zenta/platform/text_box.h zenta/platform/widget.h
   zenta/entry/common_properties.h zenta/entry/gst_hst_cell.h zenta/entry/gst_hst_settings.h
-  zenta/entry/gst_hst_table.h zenta/entry/undo_history.h
+  zenta/entry/gst_hst_table.h zenta/entry/undo_history.h zenta/entry/account_number.h
   zenta/controls/simple/amount_gst_pair.h zenta/controls/simple/govt_details.h
   zenta/controls/simple/govt_items_table.h zenta/controls/simple/pmt_details.h
   zenta/controls/simple/small_control.h zenta/controls/simple/std_payment.h

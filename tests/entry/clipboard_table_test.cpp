@@ -27,6 +27,13 @@ TEST(ClipboardTableTest, CommaSeparatedWithoutTabsAndLoneLineFeeds) {
   EXPECT_TRUE(ParseClipboardTable("").empty());
 }
 
+TEST(ClipboardTableTest, RowsKnowTheLineTheyStartOn) {
+  std::vector<std::size_t> lines;
+  const TableRows rows = ParseClipboardTable("a,b\r\n\"two\nlines\",c\r\rd,e\n", &lines);
+  ASSERT_EQ(rows.size(), 4u);
+  EXPECT_EQ(lines, (std::vector<std::size_t>{1, 2, 4, 5}));
+}
+
 TEST(ClipboardTableTest, FormattedTextReadsBackWhole) {
   const TableRows rows{{"2026/03/15", "tab\there \"q\"", "12.50"}, {"", "line\nbreak", "-1.00"}};
   const std::string text = FormatClipboardTable(rows);

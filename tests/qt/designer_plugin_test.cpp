@@ -1,9 +1,18 @@
+#include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QMetaProperty>
 #include <QPluginLoader>
 #include <QTest>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QXmlStreamReader>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QExtensionManager>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
 #include "ui_designer_form.h"
@@ -38,6 +47,31 @@ QStringList FormProperties(const QString& object) {
     if (inside && xml.isStartElement() && xml.name() == u"property") names << xml.attributes().value("name").toString();
   }
   return names;
+}
+
+// The part of Designer a plugin meets at initialize(): the core and its extension manager.
+class DesignerCore : public QDesignerFormEditorInterface {
+ public:
+  DesignerCore() { setExtensionManager(new QExtensionManager(this)); }
+};
+
+QList<QDesignerCustomWidgetInterface*> PluginWidgets(QPluginLoader& loader) {
+  auto* collection = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader.instance());
+  return collection ? collection->customWidgets() : QList<QDesignerCustomWidgetInterface*>();
+}
+
+// Answers the modal dialog the next event loop shows with `keys` typed into its filter line.
+void AnswerDialogWith(const QString& typed, const QList<Qt::Key>& keys) {
+  QTimer::singleShot(0, [typed, keys] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    auto* filter = dialog ? dialog->findChild<QLineEdit*>("filter") : nullptr;
+    if (!filter) {
+      if (dialog) dialog->close();
+      return;
+    }
+    QTest::keyClicks(filter, typed);
+    for (Qt::Key key : keys) QTest::keyClick(filter, key);
+  });
 }
 
 }  // namespace
@@ -94,6 +128,46 @@ class DesignerPluginTest : public QObject {
       set.sort();
       QCOMPARE(set, designable);
     }
+  }
+
+  // Designer asks the extension manager for a task menu of the selected widget; only the two
+  // controls with a default account answer, and the action sets the property.
+  void theTwoDistributionControlsOfferToChooseTheDefaultAccount() {
+    QStandardPaths::setTestModeEnabled(true);
+    QTemporaryDir dir;
+    const QString chart = dir.filePath("chart.csv");
+    QFile file(chart);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("6200,TRAVEL\n5100,OFFICE SUPPLIES\n");
+    file.close();
+    QSettings("Zenta", "Designer").setValue("DefaultAccountChart", chart);
+
+    QPluginLoader loader(ZENTA_DESIGNER_PLUGIN);
+    DesignerCore core;
+    QExtensionManager* manager = core.extensionManager();
+    QStringList offering;
+    std::vector<std::unique_ptr<QWidget>> controls;
+    for (QDesignerCustomWidgetInterface* widget : PluginWidgets(loader)) {
+      widget->initialize(&core);
+      controls.emplace_back(widget->createWidget(nullptr));
+      auto* menu = qt_extension<QDesignerTaskMenuExtension*>(manager, controls.back().get());
+      if (!menu) continue;
+      offering << widget->name();
+      QCOMPARE(menu->taskActions().size(), 1);
+      QCOMPARE(menu->taskActions().front()->text(), QString("Choose Default G/L Account..."));
+    }
+    QCOMPARE(offering, QStringList({"zenta::qt::PaymentDetails", "zenta::qt::InvoiceEntry"}));
+
+    QWidget* invoices = controls.back().get();
+    invoices->setProperty("DefaultGLAccount", "5100");
+    QAction* choose = qt_extension<QDesignerTaskMenuExtension*>(manager, invoices)->preferredEditAction();
+    QVERIFY(choose);
+    AnswerDialogWith("trav", {Qt::Key_Down, Qt::Key_Escape});
+    choose->trigger();
+    QCOMPARE(invoices->property("DefaultGLAccount").toString(), QString("5100"));
+    AnswerDialogWith("trav", {Qt::Key_Down, Qt::Key_Return});
+    choose->trigger();
+    QCOMPARE(invoices->property("DefaultGLAccount").toString(), QString("6200"));
   }
 
   void formValuesReachTheControls() {

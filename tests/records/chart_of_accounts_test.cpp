@@ -44,6 +44,15 @@ TEST(ChartOfAccounts, NeverOffersInactiveAccountsButFindsThem) {
   EXPECT_EQ(chart.Find("620"), nullptr);
 }
 
+TEST(ChartOfAccounts, ABrowserCanAskForInactiveAccountsToo) {
+  const ChartOfAccounts chart = SmallChart();
+  std::vector<std::string> numbers;
+  for (const GLAccount* account : chart.Complete("off", 10, AccountIndex::Include::kInactiveToo)) {
+    numbers.push_back(account->number);
+  }
+  EXPECT_EQ(numbers, (std::vector<std::string>{"5100", "5110"}));
+}
+
 TEST(ChartOfAccounts, OffersAnAccountOnceAndStopsAtTheLimit) {
   std::vector<GLAccount> accounts;
   for (int i = 0; i < 50; ++i) accounts.push_back({"7" + std::to_string(100 + i), "Rent 7 store", true});

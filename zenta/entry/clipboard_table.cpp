@@ -15,9 +15,11 @@ char SeparatorOf(std::string_view text) {
 
 }  // namespace
 
-TableRows ParseClipboardTable(std::string_view text) {
+TableRows ParseClipboardTable(std::string_view text, std::vector<std::size_t>* row_lines) {
   const char separator = SeparatorOf(text);
   TableRows rows;
+  std::size_t line = 1;
+  std::size_t row_line = 1;
   std::vector<std::string> row;
   std::string cell;
   bool quoted = false;
@@ -31,11 +33,14 @@ TableRows ParseClipboardTable(std::string_view text) {
     rows.push_back(std::move(row));
     row.clear();
     cell_started = false;
+    if (row_lines) row_lines->push_back(row_line);
   };
   for (std::size_t i = 0; i < text.size(); ++i) {
     const char c = text[i];
     if (quoted) {
       if (c != '"') {
+        // A quoted line break counts as a line, as an editor shows the file.
+        if (c == '\n' || (c == '\r' && (i + 1 == text.size() || text[i + 1] != '\n'))) ++line;
         cell += c;
       } else if (i + 1 < text.size() && text[i + 1] == '"') {
         cell += '"';
@@ -54,6 +59,7 @@ TableRows ParseClipboardTable(std::string_view text) {
     } else if (c == '\r' || c == '\n') {
       if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
       end_row();
+      row_line = ++line;
     } else {
       cell += c;
       cell_started = true;

@@ -2,11 +2,14 @@
 
 #include <QAbstractItemModel>
 #include <QCoreApplication>
+#include <QFile>
 #include <memory>
 
 #include "zenta/core/host_error.h"
+#include "zenta/entry/chart_file.h"
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/toolkit/qt_conversions.h"
+#include "zenta/qt/toolkit/ui_text.h"
 
 namespace zenta::qt {
 
@@ -17,11 +20,7 @@ constexpr const char* kWatchProperty = "zentaChartWatch";
 
 bool ReadsActive(const QVariant& value) {
   if (!value.isValid()) return true;
-  if (value.typeId() == QMetaType::QString) {
-    const QString text = value.toString().trimmed().toLower();
-    return !(text == QLatin1String("0") || text == QLatin1String("false") || text == QLatin1String("no") ||
-             text == QLatin1String("inactive"));
-  }
+  if (value.typeId() == QMetaType::QString) return !entry::MarksInactive(FromQString(value.toString()));
   return value.toBool();
 }
 
@@ -78,6 +77,27 @@ ChartOfAccounts ChartFromModel(const QAbstractItemModel& model, AccountColumns c
     accounts.push_back(std::move(account));
   }
   return ChartOfAccounts(std::move(accounts));
+}
+
+ChartOfAccounts ChartFromFile(const QString& path, QString* error) {
+  if (error) error->clear();
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    if (error) *error = UiText("The chart file cannot be read.") + QLatin1Char('\n') + file.errorString();
+    return {};
+  }
+  if (file.size() > static_cast<qint64>(entry::kMaxChartFileSize)) {
+    if (error) *error = UiText("The chart file is too large to be a chart of accounts.");
+    return {};
+  }
+  const QByteArray text = file.readAll();
+  entry::ChartFile read = entry::ParseChartFile(std::string_view(text.constData(), static_cast<std::size_t>(text.size())));
+  if (error) {
+    QStringList lines;
+    for (const entry::RefusedLine& refused : read.refused) lines << UiText(entry::RefusalText(refused));
+    *error = lines.join(QLatin1Char('\n'));
+  }
+  return std::move(read.chart);
 }
 
 void SetChartOfAccounts(QAbstractItemModel* model, AccountColumns columns) {

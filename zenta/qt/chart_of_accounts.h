@@ -22,6 +22,17 @@ struct AccountColumns {
 /// CheckStateRole when it has one, else DisplayRole).
 ChartOfAccounts ChartFromModel(const QAbstractItemModel& model, AccountColumns columns = {});
 
+/// The accounts of a chart file: plain text, one account a line, "number,name" or
+/// "number,name,active" separated by commas or tabs (tab-separated when any line holds a tab),
+/// cells in double quotes as spreadsheets write them. An active column reading 0, false, no or
+/// inactive marks an inactive account; blank lines and a first line whose number holds no digit
+/// (a header) are skipped. Numbers are kept as a payer types them: upper case, at most 30
+/// characters. The same file serves Qt Designer's "Choose Default G/L Account..." and a running
+/// host, e.g. `ApplicationContext().SetChart(std::make_shared<const ChartOfAccounts>(ChartFromFile(path)))`.
+/// Lines that give no account are left out; `error`, when given, receives one "Line 4: reason"
+/// a line for them, or why the file could not be read, and is emptied when all went well.
+ChartOfAccounts ChartFromFile(const QString& path, QString* error = nullptr);
+
 /// Gives every control of the application the accounts of `model`, read again whenever the model
 /// changes (rows added, removed or moved, data changed, reset), so a model the host already
 /// keeps can be shared. nullptr takes the chart away and accounts are free text again.

@@ -14,7 +14,7 @@ add_library(zenta_qt STATIC
 target_link_libraries(zenta_qt PUBLIC zenta_qt_toolkit zenta_controls_simple zenta_payment_details zenta_invoice_entry Qt6::Widgets)
 zenta_warnings(zenta_qt)
 
-if(TARGET Qt6::UiPlugin)
+if(TARGET Qt6::UiPlugin AND TARGET Qt6::Designer)
   add_subdirectory(designer)
 else()
   message(STATUS "Qt Designer development files not found: the Designer plugin is skipped")

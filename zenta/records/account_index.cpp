@@ -35,11 +35,17 @@ AccountIndex::AccountIndex(const std::vector<GLAccount>& accounts) {
   numbers_.reserve(accounts.size());
   name_words_.reserve(accounts.size());
   active_.reserve(accounts.size());
+  std::size_t word_count = 0;
   for (int i = 0; i < static_cast<int>(accounts.size()); ++i) {
     numbers_.emplace_back(Key(accounts[i].number), i);
     name_words_.push_back(Words(accounts[i].name));
-    for (const std::string& word : name_words_.back()) words_.emplace_back(word, i);
+    word_count += name_words_.back().size();
     active_.push_back(accounts[i].active);
+  }
+  // Sized once: growing it word by word moved every word already in it, again and again.
+  words_.reserve(word_count);
+  for (int i = 0; i < static_cast<int>(accounts.size()); ++i) {
+    for (const std::string& word : name_words_[static_cast<std::size_t>(i)]) words_.emplace_back(word, i);
   }
   std::sort(numbers_.begin(), numbers_.end());
   std::sort(words_.begin(), words_.end());
@@ -59,13 +65,13 @@ int AccountIndex::FindNumber(std::string_view number) const {
   return it != numbers_.end() && it->first == key ? it->second : -1;
 }
 
-std::vector<int> AccountIndex::Complete(std::string_view typed, std::size_t limit) const {
+std::vector<int> AccountIndex::Complete(std::string_view typed, std::size_t limit, Include include) const {
   std::vector<int> found;
   const std::string key = Key(typed);
   if (key.empty() || limit == 0) return found;
   std::vector<bool> taken;
   auto take = [&](int account) {
-    if (!active_[static_cast<std::size_t>(account)]) return;
+    if (include == Include::kActive && !active_[static_cast<std::size_t>(account)]) return;
     if (taken.empty()) taken.assign(active_.size(), false);
     if (taken[static_cast<std::size_t>(account)]) return;
     taken[static_cast<std::size_t>(account)] = true;

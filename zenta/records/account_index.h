@@ -20,10 +20,13 @@ class AccountIndex {
 
   // The account whose number is `number` (blanks around it and case ignored), or -1.
   int FindNumber(std::string_view number) const;
+  // Payers are offered active accounts only; a chart browser shows the inactive ones too.
+  enum class Include { kActive, kInactiveToo };
+
   // Active accounts whose number starts with `typed`, then those with a name word starting with
   // each word of `typed` ("trav" finds "6200 Travel", "off sup" finds "Office supplies"), each
   // once, at most `limit`. Positions in the list the index was built from.
-  std::vector<int> Complete(std::string_view typed, std::size_t limit) const;
+  std::vector<int> Complete(std::string_view typed, std::size_t limit, Include include = Include::kActive) const;
 
   // ASCII upper case, blanks around removed: how numbers and words are compared.
   static std::string Key(std::string_view text);

@@ -10,9 +10,10 @@ const GLAccount* ChartOfAccounts::Find(std::string_view number) const {
   return found < 0 ? nullptr : &accounts_[static_cast<std::size_t>(found)];
 }
 
-std::vector<const GLAccount*> ChartOfAccounts::Complete(std::string_view typed, std::size_t limit) const {
+std::vector<const GLAccount*> ChartOfAccounts::Complete(std::string_view typed, std::size_t limit,
+                                                        AccountIndex::Include include) const {
   std::vector<const GLAccount*> offers;
-  for (int position : index_.Complete(typed, limit)) offers.push_back(&accounts_[static_cast<std::size_t>(position)]);
+  for (int position : index_.Complete(typed, limit, include)) offers.push_back(&accounts_[static_cast<std::size_t>(position)]);
   return offers;
 }
 

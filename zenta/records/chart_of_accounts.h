@@ -25,7 +25,8 @@ class ChartOfAccounts {
   // The account numbered `number` (case and surrounding blanks ignored), or nullptr.
   const GLAccount* Find(std::string_view number) const;
   // Active accounts offered for what the payer has typed so far; see AccountIndex::Complete.
-  std::vector<const GLAccount*> Complete(std::string_view typed, std::size_t limit = kOfferLimit) const;
+  std::vector<const GLAccount*> Complete(std::string_view typed, std::size_t limit = kOfferLimit,
+                                         AccountIndex::Include include = AccountIndex::Include::kActive) const;
   // "6200 TRAVEL": how an account is offered and named beside its number.
   static std::string Caption(const GLAccount& account);
 

@@ -245,7 +245,7 @@ char32_t DistributionModel::FilterCellKey(const platform::CellKeyPressArgs& key)
 
 std::string DistributionModel::CleanCellText(int column, std::string_view text,
                                              const platform::HostServices& host) const {
-  if (column == kAccountColumn) return utf8::ToUpperAscii(entry::StripInvalidChars(text));
+  if (column == kAccountColumn) return entry::AccountNumberText(text);
   if (IsAmountColumn(column)) return utf8::ToUpperAscii(entry::NumericCharsOnly(text, host));
   return std::string(text);
 }

@@ -9,6 +9,7 @@
 #include "zenta/core/currency.h"
 #include "zenta/core/rate.h"
 #include "zenta/core/variant.h"
+#include "zenta/entry/account_number.h"
 #include "zenta/platform/array_2d.h"
 #include "zenta/platform/grid_notifications.h"
 #include "zenta/platform/host_services.h"
@@ -39,7 +40,7 @@ class DistributionModel {
   static constexpr int kAccountColumn = 1;
   static constexpr int kPaymentColumn = 2;
   static constexpr int kHomeColumn = 3;
-  static constexpr std::size_t kMaxAccountLength = 30;
+  static constexpr std::size_t kMaxAccountLength = entry::kMaxAccountLength;
 
   struct Totals {
     Currency payment;  // column 2

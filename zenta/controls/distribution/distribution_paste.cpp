@@ -4,6 +4,7 @@
 
 #include "zenta/core/message_template.h"
 #include "zenta/core/number_format.h"
+#include "zenta/entry/account_number.h"
 #include "zenta/entry/clipboard_table.h"
 #include "zenta/entry/message_templates.h"
 #include "zenta/entry/pasted_amount.h"
@@ -14,7 +15,6 @@ namespace {
 using Column = DistributionModel;
 
 constexpr const char* kRefused = "These lines were not pasted:";
-constexpr const char* kAccountTooLong = "The General Ledger Account Number must not be more than 30 characters in length.";
 constexpr const char* kNotAnAmount = "not an amount";
 constexpr const char* kAmountRequired = "An amount is required.";
 
@@ -68,7 +68,7 @@ DistributionPaste::Outcome DistributionPaste::Paste(DistributionModel& model, co
     const Variant amount_cell = amount ? Variant(*amount) : Variant();
     if (model.ValidateCell(Column::kAccountColumn, account_text, account, amount_cell) !=
         DistributionModel::CellVerdict::Accept) {
-      refuse(kAccountTooLong);
+      refuse(entry::kAccountTooLong);
       continue;
     }
     std::string typed = amount ? FormatNumber(*amount, formats::kAmount) : std::string();

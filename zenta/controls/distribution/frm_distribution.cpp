@@ -6,6 +6,7 @@
 #include "zenta/core/host_error.h"
 #include "zenta/core/number_format.h"
 #include "zenta/core/ole_color.h"
+#include "zenta/entry/account_number.h"
 #include "zenta/entry/edit_keys.h"
 #include "zenta/platform/keys.h"
 
@@ -344,7 +345,7 @@ void FrmDistribution::OnBeforeColUpdate(platform::BeforeColUpdateArgs& args) {
     case DistributionModel::CellVerdict::Accept:
       return;
     case DistributionModel::CellVerdict::AccountTooLong:
-      Inform("The General Ledger Account Number must not be more than 30 characters in length.");
+      Inform(entry::kAccountTooLong);
       args.cancel = true;
       engine.SetCurrentColumn(Column::kAccountColumn);
       return;

@@ -29,13 +29,13 @@ ControlCollection::ControlCollection(QObject* parent) : QObject(parent) {
       {"zenta::qt::PaymentDetails", "Payment Details", "zenta/qt/payment_details.h", "Payment with its G/L distribution",
        "One payment's amount, GST/HST, net expense and what it is for, split over G/L accounts in the "
        "distribution window.",
-       ":/zenta/designer/payment_details.png"},
+       ":/zenta/designer/payment_details.png", true},
       [](QWidget* form) { return new PaymentDetails(form); }, this));
   widgets_.append(new ControlPlugin(
       {"zenta::qt::InvoiceEntry", "Invoice Entry", "zenta/qt/invoice_entry.h", "A list of invoices with their G/L distributions",
        "The invoices one payment settles: date, number or description and amount of each, with GST/HST and net "
        "expense for a business payer, each split over G/L accounts in the distribution window.",
-       ":/zenta/designer/invoice_entry.png"},
+       ":/zenta/designer/invoice_entry.png", true},
       [](QWidget* form) { return new InvoiceEntry(form); }, this));
 }
 

@@ -1,6 +1,10 @@
 #include "zenta/qt/designer/control_plugin.h"
 
 #include <QIcon>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QExtensionManager>
+
+#include "zenta/qt/designer/default_account_task_menu.h"
 
 namespace zenta::qt {
 
@@ -13,6 +17,15 @@ QIcon ControlPlugin::icon() const {
   QIcon icon(description_.icon);
   icon.addFile(QString(description_.icon).replace(".png", "@2x.png"));
   return icon;
+}
+
+void ControlPlugin::initialize(QDesignerFormEditorInterface* core) {
+  if (initialized_) return;
+  initialized_ = true;
+  QExtensionManager* manager = core ? core->extensionManager() : nullptr;
+  if (!description_.chooses_default_account || !manager) return;
+  manager->registerExtensions(new DefaultAccountTaskMenuFactory(description_.class_name.toLatin1(), manager),
+                              Q_TYPEID(QDesignerTaskMenuExtension));
 }
 
 QString ControlPlugin::domXml() const {

@@ -19,6 +19,7 @@ class ControlPlugin : public QObject, public QDesignerCustomWidgetInterface {
     QString tooltip;
     QString whats_this;
     QString icon;  // a 32-pixel PNG resource, with its 64-pixel "@2x" twin beside it
+    bool chooses_default_account = false;  // offers "Choose Default G/L Account..."
   };
 
   ControlPlugin(Description description, std::function<QWidget*(QWidget*)> factory, QObject* parent);
@@ -32,7 +33,7 @@ class ControlPlugin : public QObject, public QDesignerCustomWidgetInterface {
   bool isContainer() const override { return false; }
   QWidget* createWidget(QWidget* parent) override { return factory_(parent); }
   bool isInitialized() const override { return initialized_; }
-  void initialize(QDesignerFormEditorInterface*) override { initialized_ = true; }
+  void initialize(QDesignerFormEditorInterface* core) override;
   QString domXml() const override;
 
  private:

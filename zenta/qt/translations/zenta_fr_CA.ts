@@ -395,5 +395,77 @@
         <source>%1 (inactive)</source>
         <translation>%1 (inactif)</translation>
     </message>
+    <message>
+        <source>The chart file cannot be read.</source>
+        <translation>Le fichier du plan comptable ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The chart file is too large to be a chart of accounts.</source>
+        <translation>Le fichier est trop volumineux pour être un plan comptable.</translation>
+    </message>
+    <message>
+        <source>A line needs an account number and a name, separated by a tab or a comma.</source>
+        <translation>Une ligne doit contenir un numéro de compte et un nom, séparés par une tabulation ou une virgule.</translation>
+    </message>
+    <message>
+        <source>A line holds at most three columns: number, name and active.</source>
+        <translation>Une ligne contient au plus trois colonnes : numéro, nom et actif.</translation>
+    </message>
+    <message>
+        <source>The account number is missing.</source>
+        <translation>Le numéro de compte est manquant.</translation>
+    </message>
+    <message>
+        <source>The account number holds characters a payer cannot type.</source>
+        <translation>Le numéro de compte contient des caractères qu’un payeur ne peut pas taper.</translation>
+    </message>
+    <message>
+        <source>A cell holds a line break; is a quote left open?</source>
+        <translation>Une cellule contient un saut de ligne; un guillemet est-il resté ouvert?</translation>
+    </message>
+    <message>
+        <source>The active column must read yes, no, true, false, 1, 0, active or inactive.</source>
+        <translation>La colonne actif doit indiquer yes, no, true, false, 1, 0, active ou inactive.</translation>
+    </message>
+    <message>
+        <source>The account number is already on an earlier line.</source>
+        <translation>Le numéro de compte figure déjà sur une ligne précédente.</translation>
+    </message>
+    <message>
+        <source>Choose Default G/L Account...</source>
+        <translation>Choisir le compte du grand livre par défaut...</translation>
+    </message>
+    <message>
+        <source>Default G/L Account</source>
+        <translation>Compte du grand livre par défaut</translation>
+    </message>
+    <message>
+        <source>Chart file:</source>
+        <translation>Fichier du plan comptable :</translation>
+    </message>
+    <message>
+        <source>Chart file</source>
+        <translation>Fichier du plan comptable</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Rechercher :</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Parcourir...</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose a chart file: one account a line, its number and name separated by a tab or a comma.</source>
+        <translation>Choisissez un fichier de plan comptable : un compte par ligne, son numéro et son nom séparés par une tabulation ou une virgule.</translation>
+    </message>
+    <message>
+        <source>Chart files (*.csv *.tsv *.txt);;All files (*)</source>
+        <translation>Plans comptables (*.csv *.tsv *.txt);;Tous les fichiers (*)</translation>
+    </message>
 </context>
 </TS>
