@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include "tests/qt/host_window.h"
 #include "tests/qt/key_input.h"
 #include "tests/qt/notify_watch.h"
 
@@ -36,16 +37,7 @@ class ControlsTest : public QObject {
 
   template <class C>
   C* Place() {
-    window_ = std::make_unique<QWidget>();
-    auto* layout = new QVBoxLayout(window_.get());
-    auto* control = new C;
-    layout->addWidget(control);
-    after_ = new QLineEdit;
-    after_->setObjectName("hostField");
-    layout->addWidget(after_);
-    window_->show();
-    if (!QTest::qWaitForWindowActive(window_.get())) return nullptr;
-    return control;
+    return testing::ShowInHostWindow<C>(window_, &after_);
   }
   static QString Shown(ControlWidget& control, const char* name) {
     return qobject_cast<QLineEdit*>(control.Surface().FindQWidget(name))->text();
@@ -225,7 +217,8 @@ class ControlsTest : public QObject {
     QVERIFY(QMetaObject::invokeMethod(remittance, "SetRows", Q_RETURN_ARG(bool, ok), Q_ARG(short, 27)));
     QVERIFY(!ok);
     QCOMPARE(errors.count(), 1);
-    QCOMPARE(static_cast<quint32>(errors.at(0).at(0).toInt()), 0x80040014u);
+    QCOMPARE(errors.at(0).at(0).value<quint32>(), 0x80040014u);
+    QCOMPARE(errors.at(0).at(1).toString(), QString("GovtDetails"));
     QCOMPARE(errors.at(0).at(2).toString(), QString("Rows must range from 1 to 26"));
     QCOMPARE(remittance->GridNumberofRows(), short{12});
   }

@@ -66,13 +66,6 @@ class GovtDetailsTest : public QObject {
     QVERIFY(remittance_->PeriodTo().isNull());
   }
 
-  void setRowsOutOfRangeReadsAsAnUnsignedNumber() {
-    QSignalSpy errors(remittance_, &ControlWidget::HostErrorRaised);
-    QVERIFY(!remittance_->SetRows(27));
-    QCOMPARE(errors.at(0).at(0).value<quint32>(), 0x80040014u);
-    QCOMPARE(errors.at(0).at(1).toString(), QString("GovtDetails"));
-  }
-
   void theStatementOnlyCaptionFitsAtAnyFontSize_data() {
     QTest::addColumn<int>("points");
     QTest::newRow("8 pt") << 8;
@@ -96,15 +89,6 @@ class GovtDetailsTest : public QObject {
     QCOMPARE(remittance_->width(), remittance_->minimumWidth());
     QVERIFY(box->width() >= box->sizeHint().width());
     QVERIFY(remittance_->Surface().width() > box->geometry().right());
-  }
-
-  void changeSignalsFollowTheStatementOnlyBox() {
-    QSignalSpy changed(remittance_, &GovtDetails::StatementOnlyChanged);
-    QSignalSpy comments(remittance_, &GovtDetails::CommentsEnabledChanged);
-    remittance_->SetStatementOnly(1);
-    QCOMPARE(changed.count(), 1);
-    QCOMPARE(comments.count(), 1);
-    QVERIFY(remittance_->SetRows(20));
   }
 
   void aTrueStatementOnlyChecksTheBox() {
