@@ -11,7 +11,6 @@
 #include "zenta/controls/distribution/library_context.h"
 #include "zenta/controls/payment_details/payment_details.h"
 #include "zenta/qt/application_context.h"
-#include "zenta/platform/array_2d.h"
 #include "tests/qt/distribution_lines.h"
 #include "zenta/qt/payment_details.h"
 #include "zenta/qt/testing/modal_scripts.h"
@@ -57,7 +56,6 @@ class DistributionDialogTest : public QObject {
     QString title;
     QString text;
     QColor refund;
-    QString footer;
     DialogScript split([&](QtDialogSurface& dialog) {
       auto* lines = qobject_cast<QTableView*>(dialog.FindQWidget("grTempDistribution"));
       QVERIFY(lines);
@@ -105,7 +103,6 @@ class DistributionDialogTest : public QObject {
     payment_->Control().SetPayDistribution(lines);
     QString focused_at_end;
     QString remaining;
-    QString footer_total;
     DialogScript type([&](QtDialogSurface& dialog) {
       QCOMPARE(QApplication::focusWidget(), dialog.FindQWidget("cmdGLAccept"));
       PressKey(Qt::Key_Backtab, Qt::ShiftModifier);
@@ -186,37 +183,6 @@ class DistributionDialogTest : public QObject {
     QVERIFY(remove.Ran());
     QCOMPARE(question, QString("Are you sure you want to delete this distribution?"));
     QCOMPARE(Lines(), (QStringList{"5100 100", "5200 50"}));
-  }
-
-  void aForeignPaymentConvertsAtTheRateIntoCanadianDollars() {
-    // Prepared as a caller does, in the callers' order.
-    FrmDistribution& window = ApplicationContext().Distribution();
-    window.SetVisibleInvoice(true);
-    window.SetIsFXPayment(true);
-    window.SetCurrencyRate(Money("1.35"));
-    window.SetFXCurrencyCode("USD");
-    auto table = std::make_shared<platform::Array2D>(0, 4, 0, 3);
-    window.SetXTempDistribution(table);
-    window.SetupForm();
-    window.SetAmountToDistribute(Money("135"));
-    QString caption;
-    DialogScript convert([&](QtDialogSurface& dialog) {
-      auto* lines = qobject_cast<QTableView*>(dialog.FindQWidget("grTempDistribution"));
-      QVERIFY(lines);
-      caption = lines->model()->headerData(2, Qt::Horizontal).toString();
-      QVERIFY(ClickCell(lines, 0, 1));
-      TypeKeys("5100");
-      PressKey(Qt::Key_Tab);
-      TypeKeys("10000");
-      PressKey(Qt::Key_Tab);
-      testing::Click(dialog.FindQWidget("cmdGLAccept"));
-    });
-    window.Show();
-    QVERIFY(convert.Ran());
-    QVERIFY(window.Chosen());
-    QCOMPARE(caption, QString("Expense (USD)"));
-    QCOMPARE(table->Get(0, 2).ToCurrency(), Money("100"));
-    QCOMPARE(table->Get(0, 3).ToCurrency(), Money("135"));
   }
 
   void oneWindowServesEveryCallerAndShowsItsFooter() {

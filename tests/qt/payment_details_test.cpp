@@ -130,13 +130,6 @@ class PaymentDetailsTest : public QObject {
       }
     }
   }
-
-  void theBusinessLayoutAsksForItsWidth() {
-    payment_->SetBusinessMode(false);
-    const int narrow = payment_->sizeHint().width();
-    payment_->SetBusinessMode(true);
-    QVERIFY(payment_->sizeHint().width() > narrow);
-  }
 };
 
 }  // namespace zenta::qt

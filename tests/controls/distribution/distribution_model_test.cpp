@@ -348,32 +348,6 @@ TEST(DistributionRemaining, CountsThePayersLinesNotTheRemainderLine) {
   EXPECT_FALSE(model.LinesAddUp());
 }
 
-TEST(DistributionAmountsCheck, AnAccountWithoutAmountNamesItsRow) {
-  Model model;
-  model.SetTable(TableOf({{"A", "60", {}}, {"B", "", {}}, {"C", Variant::Null(), {}}}));
-  const auto check = model.CheckAmountsEntered();
-  EXPECT_FALSE(check.may_accept);
-  EXPECT_EQ(check.missing_amount_row, 1);
-}
-
-TEST(DistributionAmountsCheck, AnAmountWithoutAccountPasses) {
-  Model model;
-  model.SetTable(TableOf({{nullptr, "60", {}}, {"", "40", {}}}));
-  EXPECT_TRUE(model.CheckAmountsEntered().may_accept);
-}
-
-TEST(DistributionAmountsCheck, ARejectedEditRefusesOnceWithoutARow) {
-  Model model;
-  model.SetTable(TableOf({{"A", "60", {}}}));
-  std::string text = k31;
-  model.ValidateCell(Model::kAccountColumn, text, "", Variant());
-  const auto check = model.CheckAmountsEntered();
-  EXPECT_FALSE(check.may_accept);
-  EXPECT_FALSE(check.missing_amount_row.has_value());
-  EXPECT_FALSE(model.EditRejected());
-  EXPECT_TRUE(model.CheckAmountsEntered().may_accept);
-}
-
 TEST(DistributionAmountsCheck, WithNoRowsTheRejectedFlagStays) {
   Model model;
   model.SetTable(TableOf({}));
