@@ -217,12 +217,5 @@ TEST(clsDistributions, ACopyOverASourceSharesItsElementsAsAnyCopyDoes) {
   EXPECT_EQ(empty.Count(), 0);
 }
 
-TEST(clsInvoice, StartsWithNoDistributions) {
-  clsInvoice invoice;
-  EXPECT_EQ(invoice.Distributions, nullptr);
-  EXPECT_TRUE(invoice.InvoiceDate.IsZero());
-  EXPECT_EQ(invoice.ID, 0);
-}
-
 }  // namespace
 }  // namespace zenta

@@ -102,19 +102,6 @@ TEST_F(Widgets, DateEditFillsItsMaskAndCanBeEmpty) {
   EXPECT_EQ(date.Value()->ToText(), "2026/11/22");
 }
 
-TEST_F(Widgets, DateEditRefusesDatesThatDoNotExist) {
-  auto& date = surface.AddDateEdit({"date"});
-  for (const char* typed : {"20260229", "20261301", "20260000", "00990101"}) {
-    date.SetValue(std::nullopt);
-    user.Click(date);
-    user.Type(typed);
-    EXPECT_FALSE(date.Value().has_value()) << typed;
-  }
-  date.SetValue(std::nullopt);
-  user.Type("20240229");
-  EXPECT_EQ(date.Value()->ToText(), "2024/02/29");
-}
-
 TEST_F(Widgets, DateEditTypingAfterTheFocusArrivesStartsANewDate) {
   auto& date = surface.AddDateEdit({"date"});
   auto& other = surface.AddTextBox({"other"});
