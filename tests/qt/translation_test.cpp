@@ -1,7 +1,9 @@
 #include <QLabel>
 #include <QTableView>
 #include <QTest>
-#include <QVBoxLayout>
+#include <memory>
+
+#include "tests/qt/host_window.h"
 
 #include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/controls/payment_details/payment_details.h"
@@ -125,11 +127,9 @@ class TranslationTest : public QObject {
 
   void messagesAndTitlesAreTranslatedToo() {
     QVERIFY(InstallTranslator(QLocale(QLocale::French, QLocale::Canada)));
-    QWidget window;
-    auto* payment = new PaymentDetails;
-    (new QVBoxLayout(&window))->addWidget(payment);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    std::unique_ptr<QWidget> window;
+    auto* payment = testing::ShowInHostWindow<PaymentDetails>(window);
+    QVERIFY(payment);
     payment->SetPaymentAmount(Currency::FromText("150"));
     auto kept = std::make_shared<clsDistributions>();
     kept->Add(Variant(), "5100", Currency::FromText("100"));
