@@ -139,15 +139,6 @@ TEST_F(TypedSplitTest, TabOrEnterFromTheAccountGoesToAcceptOnceTheLinesAddUp) {
   }
 }
 
-TEST_F(TypedSplitTest, TheCursorNeverWaitsOnTheDeleteColumn) {
-  Prepare("100.00", {{"5100", "100.00"}});
-  Show([&] {
-    EXPECT_EQ(FocusedName(), "cmdGLAccept");
-    EXPECT_EQ(Engine().CurrentColumn(), 1);
-    user.Click(Cancel());
-  });
-}
-
 TEST_F(TypedSplitTest, LineButtonsSayWhatTheyDo) {
   Prepare("100.00", {{"5100", "100.00"}});
   Show([&] {
