@@ -1,6 +1,5 @@
 #include <QSignalSpy>
 #include <QTest>
-#include <cmath>
 #include <limits>
 
 #include "tests/qt/host_window.h"
@@ -61,14 +60,9 @@ class HostErrorsTest : public QObject {
     QCOMPARE(invoice.CompanyExpense, NearTheMaximum());
   }
 
-  void aRateNoAmountConvertsAtIsRefusedAndTheLastOneKept_data() {
-    QTest::addColumn<float>("rate");
-    QTest::newRow("NaN") << std::nanf("");
-    QTest::newRow("infinity") << std::numeric_limits<float>::infinity();
-    QTest::newRow("3.4e38") << 3.4e38f;
-  }
+  // Which rates are refused is the control's rule; here, that the refusal reaches the host as a signal.
   void aRateNoAmountConvertsAtIsRefusedAndTheLastOneKept() {
-    QFETCH(float, rate);
+    const float rate = std::numeric_limits<float>::infinity();
     invoices_->SetIPCurrency("USD");
     invoices_->SetCurrencyRate(1.5f);
     invoices_->SetupIPGrid();

@@ -79,13 +79,6 @@ TEST_F(GridWidgetTest, PostsThatKeepPostingAreStopped) {
   EXPECT_THROW(form.RunPosted(), std::logic_error);
 }
 
-TEST_F(GridWidgetTest, RowsSitBelowTheHeaderAtFixedHeights) {
-  EXPECT_EQ(grid.FirstRowTop(), 200 + GridWidget::kHeaderHeight);
-  EXPECT_EQ(grid.RowHeight(), GridWidget::kRowHeight);
-  grid.SetRect({0, 0, 10, 10});
-  EXPECT_EQ(grid.Rect().width, 10);
-}
-
 TEST_F(GridWidgetTest, ClickingAButtonCellClicksIt) {
   engine.SetColumnKind(1, platform::ColumnKind::Button);
   std::vector<int> rows;
