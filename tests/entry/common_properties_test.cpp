@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "zenta/entry/enter_key.h"
-#include "zenta/entry/surface_rules.h"
 #include "zenta/platform/headless/form.h"
 #include "zenta/platform/headless/host.h"
 #include "zenta/platform/headless/memory_property_bag.h"
@@ -94,28 +92,6 @@ TEST_F(CommonPropertiesTest, SystemColoursSurviveTheStore) {
   properties.Write(bag);
   properties.Read(bag);
   EXPECT_EQ(surface.BackColor(), colors::k3DLight);
-}
-
-TEST_F(CommonPropertiesTest, MinimumSizeAndEnabledWalk) {
-  auto& label = surface.AddLabel({"lbl"}, "x");
-  surface.SetSize(100, 50000);
-  EnforceMinimumSize(surface, 1815, 1200);
-  EXPECT_EQ(surface.Width(), 1815);
-  EXPECT_EQ(surface.Height(), 50000);
-  surface.SetEnabled(false);
-  PropagateEnabled(surface);
-  EXPECT_FALSE(label.Enabled());
-}
-
-TEST_F(CommonPropertiesTest, EnterBecomesTabOnlyWithoutModifiers) {
-  platform::KeyDown enter{platform::keys::kEnter, platform::kNoShift};
-  EXPECT_TRUE(EnterMovesOn(enter, host));
-  EXPECT_EQ(enter.key_code, 0);
-  for (int shift : {int{platform::kShift}, int{platform::kCtrl}, int{platform::kAlt}, platform::kShift | platform::kCtrl}) {
-    platform::KeyDown modified{platform::keys::kEnter, shift};
-    EXPECT_FALSE(EnterMovesOn(modified, host));
-    EXPECT_EQ(modified.key_code, platform::keys::kEnter);
-  }
 }
 
 }  // namespace
