@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "tests/qt/distribution_lines.h"
 #include "tests/qt/host_window.h"
 #include "zenta/qt/govt_details.h"
 #include "zenta/qt/invoice_entry.h"
@@ -331,12 +332,7 @@ class AccessibilityTest : public QObject {
     const InvoiceRecord invoice = invoices->InvoiceValues(1);
     QCOMPARE(invoice.InvoiceNo, QString("INV-7"));
     QCOMPARE(invoice.InvoiceAmount, Currency::FromText("12.50"));
-    QStringList split;
-    for (const QVariant& line : invoice.Distributions.ToList()) {
-      const QVariantMap map = line.toMap();
-      split << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
-    }
-    QCOMPARE(split, (QStringList{"5100 7.5", "5200 5"}));
+    QCOMPARE(testing::LinesOf(invoice.Distributions.ToList()), (QStringList{"5100 7.5", "5200 5"}));
     QVERIFY(invoices->DataEntryComplete());
   }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QVariantList>
 #include <QVariantMap>
 
 #include "zenta/qt/payment_details.h"
@@ -8,14 +9,16 @@
 
 namespace zenta::qt::testing {
 
-// A payment's accepted lines as "account amount", in line order.
-inline QStringList LinesOf(const PaymentDetails& payment) {
+// Distribution lines as a host reads them, as "account amount", in line order.
+inline QStringList LinesOf(const QVariantList& distributions) {
   QStringList lines;
-  for (const QVariant& line : payment.Distributions()) {
+  for (const QVariant& line : distributions) {
     const QVariantMap map = line.toMap();
     lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
   }
   return lines;
 }
+
+inline QStringList LinesOf(const PaymentDetails& payment) { return LinesOf(payment.Distributions()); }
 
 }  // namespace zenta::qt::testing

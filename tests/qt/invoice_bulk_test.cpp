@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QTest>
 
+#include "tests/qt/distribution_lines.h"
 #include "tests/qt/host_window.h"
 #include "zenta/qt/invoice_entry.h"
 #include "zenta/qt/testing/modal_scripts.h"
@@ -103,11 +104,7 @@ class InvoiceBulkTest : public QObject {
     testing::Settle();
     QVERIFY(paste.Ran());
     QVERIFY(undone);
-    QStringList lines;
-    for (const QVariant& line : invoices_->InvoiceValues(1).Distributions.ToList()) {
-      const QVariantMap map = line.toMap();
-      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
-    }
+    const QStringList lines = testing::LinesOf(invoices_->InvoiceValues(1).Distributions.ToList());
     QVERIFY2(lines.contains("5100 60") && lines.contains("5200 40"), qPrintable(lines.join(", ")));
     // The accepted split is a step of the list.
     QVERIFY(invoices_->undoAction()->isEnabled());

@@ -16,6 +16,7 @@
 
 #include "zenta/controls/invoice_entry/invoice_entry.h"
 #include "zenta/qt/invoice_entry.h"
+#include "tests/qt/distribution_lines.h"
 #include "tests/qt/host_window.h"
 #include "tests/qt/notify_watch.h"
 #include "zenta/qt/testing/modal_scripts.h"
@@ -124,14 +125,7 @@ class InvoiceEntryTest : public QObject {
     return clipped;
   }
 
-  QStringList LinesOf(short row) const {
-    QStringList lines;
-    for (const QVariant& line : invoices_->InvoiceValues(row).Distributions.ToList()) {
-      const QVariantMap map = line.toMap();
-      lines << map.value("GLAccount").toString() + " " + ToQString(map.value("Amount").value<Currency>());
-    }
-    return lines;
-  }
+  QStringList LinesOf(short row) const { return testing::LinesOf(invoices_->InvoiceValues(row).Distributions.ToList()); }
 
  private slots:
   void init() {
