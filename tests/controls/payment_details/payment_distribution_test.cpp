@@ -6,8 +6,6 @@
 namespace zenta::testing {
 namespace {
 
-Currency Money(const char* text) { return Currency::FromText(text); }
-
 class PaymentDistributionTest : public ::testing::Test, public PaymentScreen {
  protected:
   std::string DialogCell(int row, int column) { return DialogEngine().DisplayedText(row, column); }

@@ -5,8 +5,6 @@
 namespace zenta::testing {
 namespace {
 
-Currency Money(const char* text) { return Currency::FromText(text); }
-
 class PaymentGstFillTest : public ::testing::Test, public PaymentScreen {
  protected:
   void SetUp() override {

@@ -52,10 +52,11 @@ struct PaymentScreen {
   }
 
   std::vector<std::string> Events() const { return host.EventNames(); }
+  static Currency Money(const char* text) { return Currency::FromText(text); }
 
   static std::shared_ptr<clsDistributions> Lines(const std::vector<std::pair<std::string, const char*>>& lines) {
     auto distribution = std::make_shared<clsDistributions>();
-    for (const auto& [account, amount] : lines) distribution->Add(Variant(), account, Currency::FromText(amount));
+    for (const auto& [account, amount] : lines) distribution->Add(Variant(), account, Money(amount));
     return distribution;
   }
 };
