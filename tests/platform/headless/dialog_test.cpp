@@ -151,24 +151,5 @@ TEST_F(DialogTest, MessageBoxesAndPostsWorkWhileTheDialogIsUp) {
   dialog->ShowModal();
 }
 
-TEST(HostServices, BeepsAreCountedAndContainerMetricsAreTheTestsOwn) {
-  Form form;
-  Host host(form);
-  host.Beep();
-  host.Beep();
-  EXPECT_EQ(host.Beeps(), 2);
-  platform::ContainerMetrics metrics;
-  metrics.control_left = 120;
-  metrics.container.scale_width = 9000;
-  host.SetContainer(metrics);
-  EXPECT_EQ(host.Container().control_left, 120);
-  EXPECT_EQ(host.Container().container.scale_width, 9000);
-  int ran = 0;
-  host.Post([&] { ++ran; });
-  EXPECT_EQ(ran, 0);
-  form.RunPosted();
-  EXPECT_EQ(ran, 1);
-}
-
 }  // namespace
 }  // namespace zenta::headless
