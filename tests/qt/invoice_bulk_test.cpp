@@ -2,7 +2,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -71,18 +70,6 @@ class InvoiceBulkTest : public QObject {
     invoices_->redoAction()->trigger();
     QCOMPARE(invoices_->RowCount(), short{3});
     QCOMPARE(recalculate.count(), 3);
-  }
-
-  void refusedRowsAreListedInOneMessageBox() {
-    connect(invoices_, &InvoiceEntry::CheckDuplicateInvoices, this,
-            [](QString& number, bool& cancel) { cancel = number == "DUP"; });
-    QString told;
-    testing::AnswerNextMessage(QMessageBox::Ok, [&told](QMessageBox& box) { told = box.text(); });
-    invoices_->PasteText(Day(1) + "\tOK\t5\n" + Day(1) + "\tDUP\t5\n" + Day(1) + "\tBAD\t5x\n");
-    QCOMPARE(invoices_->RowCount(), short{1});
-    QCOMPARE(told, QString("These rows were not pasted:\n"
-                           "Row 2, Invoice Number / Description: refused as a duplicate\n"
-                           "Row 3, Invoice Amount: not an amount"));
   }
 
   void theDistributionWindowTakesPastedLinesAndUndoesThem() {
