@@ -9,6 +9,7 @@
 #include "tests/qt/distribution_lines.h"
 #include "tests/qt/host_window.h"
 #include "zenta/controls/payment_details/payment_details.h"
+#include "zenta/records/cls_distributions.h"
 #include "zenta/qt/application_context.h"
 #include "zenta/qt/chart_of_accounts.h"
 #include "zenta/qt/payment_details.h"
@@ -67,9 +68,6 @@ class ChartAndTaxTest : public QObject {
     QCOMPARE(ApplicationContext().Chart()->Find("7000")->name, std::string("LEASE"));
     const ChartOfAccounts fromColumns = ChartFromModel(accounts_, {1, 0, -1});
     QVERIFY(fromColumns.Find("LEASE"));
-    SetStrictAccounts(true);  // what strict mode refuses is tested on the window's rules
-    QVERIFY(ApplicationContext().StrictAccounts());
-    SetStrictAccounts(false);
   }
 
   void typingANameOffersAccountsAndTheKeyboardTakesOne() {
@@ -112,6 +110,26 @@ class ChartAndTaxTest : public QObject {
     QCOMPARE(tooltip, QString("6210 TRAVEL MEALS"));
     QVERIFY2(description.contains("Not in the chart of accounts"), qPrintable(description));
     QVERIFY(unknown_marked);
+  }
+
+  void strictModeRefusesAnUnknownAccountNamingTheLine() {
+    SetStrictAccounts(true);
+    payment_->SetPaymentAmount(Money("100"));
+    auto kept = std::make_shared<clsDistributions>();
+    kept->Add(Variant(), "6200", Money("60"));
+    kept->Add(Variant(), "1234", Money("40"));
+    payment_->Control().SetPayDistribution(kept);
+    QString text;
+    DialogScript split([&](QtDialogSurface& dialog) {
+      testing::AnswerNextMessage(QMessageBox::Ok, [&](QMessageBox& box) { text = box.text(); });
+      testing::Click(dialog.FindQWidget("cmdGLAccept"));
+      QVERIFY(dialog.isVisible());
+      testing::Click(dialog.FindQWidget("cmdGLCancel"));
+    });
+    payment_->ShowDistribution();
+    SetStrictAccounts(false);
+    QVERIFY(split.Ran());
+    QCOMPARE(text, QString("Line 2: the account 1234 is not in the chart of accounts."));
   }
 
   void theFillKeyAndItsButtonWorkOutTheTax() {
