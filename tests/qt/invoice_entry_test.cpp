@@ -403,7 +403,8 @@ class InvoiceEntryTest : public QObject {
     QCOMPARE(InkIn(chosen, cell(1)).back, QColor(255, 255, 200));
   }
 
-  // Only a stored invoice has a View Dist button to press; the row for a new one shows none.
+  // A stored invoice has a View Dist button to press; the row for a new one shows none until
+  // something is typed in it.
   void theRowForANewInvoiceShowsNoButton() {
     invoices_->AddInvoice(QDate::currentDate(), "A-1", Money("5"));
     QCoreApplication::processEvents();
@@ -413,7 +414,7 @@ class InvoiceEntryTest : public QObject {
       if (grid->model()->headerData(column, Qt::Horizontal).toString() == "View Dist") view = column;
     }
     QVERIFY(view >= 0);
-    const QImage shown = grid->viewport()->grab().toImage();
+    QImage shown = grid->viewport()->grab().toImage();
     auto colours = [&](int row) {
       QSet<QRgb> seen;
       const QRect cell = grid->visualRect(grid->model()->index(row, view)).adjusted(1, 1, -2, -2);
@@ -424,6 +425,12 @@ class InvoiceEntryTest : public QObject {
     };
     QVERIFY(colours(0) > 2);    // a raised button with its caption
     QCOMPARE(colours(1), 1);    // the row's own background only
+
+    // Once the payer types in it, the new row can be split like any other.
+    QVERIFY(ClickCell(grid, 1, kNumber));
+    TypeKeys("B-2");
+    shown = grid->viewport()->grab().toImage();
+    QVERIFY(colours(1) > 2);
   }
 
   void theCaptionsFollowBusinessAndForeignMode() {

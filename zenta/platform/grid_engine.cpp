@@ -101,6 +101,10 @@ int GridEngine::DisplayRowCount() const { return source_ ? RowCount() + (allow_a
 
 bool GridEngine::IsAddNewRow(int row) const { return allow_add_new_ && source_ && row == FirstRow() + RowCount(); }
 
+bool GridEngine::HasButtonToPress(int row) const {
+  return !IsAddNewRow(row) || (current_row_ == row && (RowChanged() || editing_));
+}
+
 void GridEngine::SetAllowAddNew(bool allow) {
   if (allow == allow_add_new_) return;
   if (!allow && current_row_ && IsAddNewRow(*current_row_)) {
@@ -308,7 +312,7 @@ CellAppearance GridEngine::Appearance(int row, int column) const {
     if (handlers_.format_text) handlers_.format_text(args);
     appearance.text = std::move(args.text);
     const bool button = column >= 0 && column < ColumnCount() && Column(column).kind == ColumnKind::Button;
-    if (button && appearance.text.empty() && !IsAddNewRow(row)) appearance.text = Column(column).button_text;
+    if (button && appearance.text.empty() && HasButtonToPress(row)) appearance.text = Column(column).button_text;
   }
   appearance.back_color = (row - FirstRow()) % 2 == 0 ? colors_.even_row_back : colors_.odd_row_back;
   if (column < 0 || column >= ColumnCount()) return appearance;

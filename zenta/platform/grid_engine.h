@@ -113,6 +113,9 @@ class GridEngine {
   int DisplayRowCount() const;
   int BookmarkAt(int display_row) const { return FirstRow() + display_row; }
   bool IsAddNewRow(int row) const;
+  // Whether the row's button cells have something to press: every stored row, and the row for a
+  // new one once something is typed in it.
+  bool HasButtonToPress(int row) const;
 
   // What the grid holds, in words ("Invoices"): toolkits name the grid with it for assistive
   // tools; nothing shows it.

@@ -283,11 +283,9 @@ class AccessibleGridCell : public AccessibleGridPart,
   QModelIndex Index() const { return view_->model()->index(row_, column_); }
   int Row() const { return view_->Engine().BookmarkAt(row_); }
   const platform::GridColumn& Described() const { return view_->Engine().Column(column_); }
-  // The row for a new one has nothing to press until something is typed in it.
   bool IsButton() const {
     if (!isValid() || Described().kind != ColumnKind::Button || Described().button_tooltip.empty()) return false;
-    const platform::GridEngine& engine = view_->Engine();
-    return !engine.IsAddNewRow(Row()) || (engine.CurrentRow() == Row() && (engine.RowChanged() || engine.IsEditing()));
+    return view_->Engine().HasButtonToPress(Row());
   }
   bool IsAmount() const { return isValid() && Described().kind == ColumnKind::Number; }
   bool Editable() const {

@@ -25,8 +25,8 @@ void GridCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   const int column = index.column();
   if (column < 0 || column >= engine_.ColumnCount()) return;
   if (engine_.Column(column).kind == platform::ColumnKind::Button) {
-    // The row for a new invoice has no caption there: a blank button would invite a click
-    // that does nothing.
+    // No caption where there is nothing to press yet (the row for a new invoice before
+    // anything is typed in it): a blank button would invite a click that does nothing.
     if (index.data(Qt::DisplayRole).toString().isEmpty()) {
       QStyledItemDelegate::paint(painter, option, index);
     } else {
